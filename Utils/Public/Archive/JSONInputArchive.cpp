@@ -1,0 +1,365 @@
+#include "Utils/Public/Archive/JSONInputArchive.h"
+
+#include <boost/unordered/unordered_flat_map.hpp>
+
+#include <array>
+#include <charconv>
+#include <forward_list>
+#include <istream>
+
+#include "Utils/Public/Archive/PolymorphicRegistry.h"
+#include "Utils/Public/Archive/RapidJSON.h"
+
+namespace cereal {
+
+namespace {
+
+/// A dynamic type that occurred in this text, with its way to each base that a pointer to it was read for. Entries and
+/// chains stay where they are while the archive lives.
+struct TypeEntry {
+    std::string name;
+    const detail::InputBinding* binding = nullptr;
+    std::forward_list<std::pair<const std::type_info*, detail::CasterChain>> chains;
+};
+
+constexpr std::uint32_t FirstOccurrence = 0x80000000U;
+constexpr std::uint32_t IsStaticType = 0x40000000U;
+constexpr std::uint32_t IdMask = ~FirstOccurrence;
+
+constexpr unsigned ParseFlags = rapidjson::kParseIterativeFlag | rapidjson::kParseInsituFlag |
+                                rapidjson::kParseFullPrecisionFlag | rapidjson::kParseNanAndInfFlag;
+
+using Value = rapidjson::Value;
+
+/// The whole rest of a stream with a closing NUL.
+std::string readWhole(std::istream& stream)
+{
+    constexpr std::size_t FirstPiece = 1U << 16U;
+    std::string text;
+    std::size_t size = 0;
+    std::size_t piece = FirstPiece;
+    if (std::streambuf* const source = stream.rdbuf()) {
+        if (const std::streamsize available = source->in_avail(); available > 0) {
+            piece = std::max(piece, static_cast<std::size_t>(available) + 1);
+        }
+        while (true) {
+            text.resize(size + piece);
+            const auto count = static_cast<std::size_t>(
+                source->sgetn(text.data() + size, static_cast<std::streamsize>(piece)));
+            size += count;
+            if (count < piece) {
+                break;
+            }
+            piece = size;
+        }
+    }
+    text.resize(size);
+    return text;
+}
+
+/// A walk over the members of an object or the elements of an array.
+struct Frame {
+    const Value::Member* members = nullptr;
+    const Value* elements = nullptr;
+    rapidjson::SizeType size = 0;
+    rapidjson::SizeType next = 0;
+    std::uint32_t unnamed = 0;
+    bool isArray = false;
+};
+
+Frame makeObjectFrame(const Value& object)
+{
+    Frame frame;
+    RAPIDJSON_ASSERT(object.IsObject());
+    frame.size = object.MemberCount();
+    frame.members = frame.size == 0 ? nullptr : &*object.MemberBegin();
+    return frame;
+}
+
+Frame makeArrayFrame(const Value& array)
+{
+    Frame frame;
+    frame.isArray = true;
+    frame.size = array.Size();
+    frame.elements = array.Begin();
+    return frame;
+}
+
+bool isNamed(const Value::Member& member, std::string_view key)
+{
+    return member.name.GetStringLength() == key.size() &&
+           std::memcmp(member.name.GetString(), key.data(), key.size()) == 0;
+}
+
+} // namespace
+
+struct JSONInputArchive::Impl {
+    std::string text;
+    rapidjson::Document document;
+    std::vector<Frame> frames;
+    const Value* current = nullptr;
+    boost::unordered_flat_map<std::uint32_t, SharedEntry> shared;
+    std::forward_list<TypeEntry> typeEntries;
+    boost::unordered_flat_map<std::uint32_t, TypeEntry*> types;
+};
+
+JSONInputArchive::JSONInputArchive(std::istream& stream) : JSONInputArchive(stream, Options{}) {}
+
+JSONInputArchive::JSONInputArchive(std::istream& stream, const Options& options)
+    : _impl(std::make_unique<Impl>()), _nestingLimit(options.nestingLimit)
+{
+    Impl& impl = *_impl;
+    impl.text = readWhole(stream);
+    rapidjson::InsituStringStream text(impl.text.data());
+    impl.document.ParseStream<ParseFlags>(text);
+    if (impl.document.HasParseError() || text.Tell() != impl.text.size()) {
+        detail::throwFailedCheck("IsObject()");
+    }
+    impl.frames.push_back(impl.document.IsArray() ? makeArrayFrame(impl.document)
+                                                  : makeObjectFrame(impl.document));
+}
+
+JSONInputArchive::~JSONInputArchive() = default;
+
+void JSONInputArchive::seek(std::string_view key)
+{
+    Frame& frame = _impl->frames.back();
+    if (frame.isArray) {
+        seekUnnamed();
+        return;
+    }
+    if (frame.next < frame.size && isNamed(frame.members[frame.next], key)) [[likely]] {
+        _impl->current = &frame.members[frame.next++].value;
+        return;
+    }
+    for (rapidjson::SizeType index = 0; index < frame.size; ++index) {
+        if (isNamed(frame.members[index], key)) {
+            _impl->current = &frame.members[index].value;
+            frame.next = index + 1;
+            return;
+        }
+    }
+    throw Exception("JSON Parsing failed - provided NVP (" + std::string(key) + ") not found");
+}
+
+void JSONInputArchive::seekUnnamed()
+{
+    Frame& frame = _impl->frames.back();
+    if (frame.isArray) {
+        if (frame.next >= frame.size) {
+            throw Exception("Invalid Iterator Type!");
+        }
+        _impl->current = &frame.elements[frame.next++];
+        return;
+    }
+    std::array<char, 16> name{'v', 'a', 'l', 'u', 'e'};
+    const auto end = std::to_chars(name.data() + 5, name.data() + name.size(), frame.unnamed++).ptr;
+    seek({name.data(), static_cast<std::size_t>(end - name.data())});
+}
+
+void JSONInputArchive::countNesting()
+{
+    if (++_nesting > _nestingLimit) {
+        throw Exception("Nesting limit of " + std::to_string(_nestingLimit) + " reached during load");
+    }
+}
+
+void JSONInputArchive::enterObject()
+{
+    countNesting();
+    _impl->frames.push_back(makeObjectFrame(*_impl->current));
+}
+
+std::size_t JSONInputArchive::enterArray()
+{
+    countNesting();
+    _impl->frames.push_back(makeArrayFrame(*_impl->current));
+    return _impl->frames.back().size;
+}
+
+void JSONInputArchive::leave()
+{
+    --_nesting;
+    _impl->frames.pop_back();
+}
+
+bool JSONInputArchive::isPositiveBeyondInt64() const
+{
+    return _impl->current->IsUint64() && !_impl->current->IsInt64();
+}
+
+void JSONInputArchive::loadValue(bool& value)
+{
+    RAPIDJSON_ASSERT(_impl->current->IsBool());
+    value = _impl->current->IsTrue();
+}
+
+void JSONInputArchive::loadValue(std::int64_t& value)
+{
+    value = _impl->current->GetInt64();
+}
+
+void JSONInputArchive::loadValue(std::uint64_t& value)
+{
+    value = _impl->current->GetUint64();
+}
+
+void JSONInputArchive::loadValue(std::int32_t& value)
+{
+    value = _impl->current->GetInt();
+}
+
+void JSONInputArchive::loadValue(std::uint32_t& value)
+{
+    value = _impl->current->GetUint();
+}
+
+void JSONInputArchive::loadValue(double& value)
+{
+    value = _impl->current->GetDouble();
+}
+
+void JSONInputArchive::loadValue(std::string& value)
+{
+    value.assign(loadString());
+}
+
+std::string_view JSONInputArchive::loadString()
+{
+    RAPIDJSON_ASSERT(_impl->current->IsString());
+    return {_impl->current->GetString(), _impl->current->GetStringLength()};
+}
+
+void JSONInputArchive::throwOutOfRange()
+{
+    detail::throwFailedCheck("value is within the range of its type");
+}
+
+const std::shared_ptr<void>& JSONInputArchive::findShared(std::uint32_t id, const std::type_info& type) const
+{
+    const auto entry = _impl->shared.find(id);
+    if (entry == _impl->shared.end() || *entry->second.type != type) {
+        throw Exception("Error while trying to deserialize a smart pointer. Could not find id " +
+                        std::to_string(id));
+    }
+    return entry->second.object;
+}
+
+void JSONInputArchive::addShared(std::uint32_t id, std::shared_ptr<void> object, const std::type_info& type)
+{
+    _impl->shared[id & IdMask] = {std::move(object), &type};
+}
+
+JSONInputArchive::PolymorphicType
+JSONInputArchive::readPolymorphicType(const std::type_info& base)
+{
+    std::uint32_t id = 0;
+    seek("polymorphic_id");
+    loadValue(id);
+    if ((id & IsStaticType) != 0) {
+        throw Exception("Cannot load a polymorphic type that is not default constructable and does not have "
+                        "a load_and_construct function");
+    }
+    if (id == 0) {
+        return {};
+    }
+    TypeEntry* entry = nullptr;
+    if ((id & FirstOccurrence) != 0) {
+        seek("polymorphic_name");
+        entry = &_impl->typeEntries.emplace_front();
+        loadValue(entry->name);
+        _impl->types[id & IdMask] = entry;
+    } else {
+        const auto known = _impl->types.find(id);
+        if (known == _impl->types.end()) {
+            throw Exception("Error while trying to deserialize a polymorphic pointer. Could not find type id " +
+                            std::to_string(id));
+        }
+        entry = known->second;
+    }
+    if (entry->binding == nullptr) {
+        const auto& types = detail::StaticObject<detail::TypeNameMap>::getInstance().map;
+        const auto& bindings =
+            detail::StaticObject<detail::InputBindingMap<JSONInputArchive>>::getInstance().map;
+        const auto type = types.find(entry->name);
+        const auto binding = type == types.end() ? bindings.end() : bindings.find(type->second);
+        if (binding == bindings.end()) {
+            throw Exception(
+                "Trying to load an unregistered polymorphic type (" + entry->name +
+                ").\nMake sure your type is registered with CEREAL_REGISTER_TYPE and that the archive you "
+                "are using was included (and registered with CEREAL_REGISTER_ARCHIVE) prior to calling "
+                "CEREAL_REGISTER_TYPE.\nIf your type is already registered and you still see this error, you "
+                "may need to use CEREAL_REGISTER_DYNAMIC_INIT.");
+        }
+        entry->binding = &binding->second;
+    }
+    for (const auto& [known, chain] : entry->chains) {
+        if (known == &base) {
+            return {entry->binding, &chain};
+        }
+    }
+    entry->chains.emplace_front(&base, detail::PolymorphicCasters::lookup(base, *entry->binding->type));
+    return {entry->binding, &entry->chains.front().second};
+}
+
+void* JSONInputArchive::loadPolymorphic(const std::type_info& base)
+{
+    struct Destroyer {
+        void (*destroy)(void*);
+        void operator()(void* object) const { destroy(object); }
+    };
+
+    enterObject();
+    void* result = nullptr;
+    if (const PolymorphicType type = readPolymorphicType(base); type.binding != nullptr) {
+        seek("ptr_wrapper");
+        enterObject();
+        std::uint32_t isValid = 0;
+        seek("valid");
+        loadValue(isValid);
+        if (isValid != 0) {
+            std::unique_ptr<void, Destroyer> object(type.binding->create(), {type.binding->destroy});
+            seek("data");
+            enterObject();
+            type.binding->load(*this, object.get());
+            leave();
+            result = detail::PolymorphicCasters::upcastImpl(*type.chain, object.release());
+        }
+        leave();
+    }
+    leave();
+    return result;
+}
+
+std::shared_ptr<void> JSONInputArchive::loadSharedPolymorphic(const std::type_info& base)
+{
+    enterObject();
+    std::shared_ptr<void> result;
+    if (const PolymorphicType type = readPolymorphicType(base); type.binding != nullptr) {
+        seek("ptr_wrapper");
+        enterObject();
+        std::uint32_t id = 0;
+        seek("id");
+        loadValue(id);
+        std::shared_ptr<void> object;
+        if ((id & FirstOccurrence) != 0) {
+            object = type.binding->createShared();
+            seek("data");
+            enterObject();
+            type.binding->load(*this, object.get());
+            leave();
+            addShared(id, object, *type.binding->type);
+        } else if (id != 0) {
+            object = findShared(id, *type.binding->type);
+        }
+        if (object) {
+            void* const atBase = detail::PolymorphicCasters::upcastImpl(*type.chain, object.get());
+            result = std::shared_ptr<void>(std::move(object), atBase);
+        }
+        leave();
+    }
+    leave();
+    return result;
+}
+
+} // namespace cereal

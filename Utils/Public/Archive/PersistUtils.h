@@ -1,0 +1,128 @@
+#pragma once
+
+#include <cstdint>
+
+#include "Utils/Public/Archive/Persist.h"
+#include "Utils/Public/BoolOpt.h"
+#include "Utils/Public/Cinder.h"
+#include "Utils/Public/FloatNumber.h"
+#include "Utils/Public/TaggedEmpty.h"
+#include "Utils/Public/TaggedValue.h"
+
+/// The small value types.
+
+namespace QN {
+
+/// An object with the one key "_value".
+template <class T, class Tag>
+struct Persist<TaggedValue<T, Tag>> {
+    static void save(cereal::JSONOutputArchive& archive, const TaggedValue<T, Tag>& value)
+    {
+        archive.startObject();
+        archive.member("_value", value.get());
+        archive.endObject();
+    }
+
+    static void load(cereal::JSONInputArchive& archive, TaggedValue<T, Tag>& value)
+    {
+        archive.enterObject();
+        archive.member("_value", value.get());
+        archive.leave();
+    }
+};
+
+template <class Tag>
+struct Persist<TaggedEmpty<Tag>> {
+    static void save(cereal::JSONOutputArchive& archive, const TaggedEmpty<Tag>& /*value*/)
+    {
+        archive.startObject();
+        archive.endObject();
+    }
+
+    static void load(cereal::JSONInputArchive& archive, TaggedEmpty<Tag>& /*value*/)
+    {
+        archive.enterObject();
+        archive.leave();
+    }
+};
+
+/// An object with the one key "value": 1 for true, 0 for false, -1 for unset. Any other integer reads as unset.
+template <>
+struct Persist<BoolOpt> {
+    static void save(cereal::JSONOutputArchive& archive, const BoolOpt& value)
+    {
+        archive.startObject();
+        archive.member("value", !value ? -1 : *value ? 1 : 0);
+        archive.endObject();
+    }
+
+    static void load(cereal::JSONInputArchive& archive, BoolOpt& value)
+    {
+        value = boost::none;
+        archive.enterObject();
+        archive.seek("value");
+        if (archive.isPositiveBeyondInt64()) {
+            archive.leave();
+            return;
+        }
+        std::int64_t state = -1;
+        archive.loadValue(state);
+        if (state == 0 || state == 1) {
+            value = state == 1;
+        }
+        archive.leave();
+    }
+};
+
+/// A plain number.
+template <>
+struct Persist<FloatNumber> {
+    static void save(cereal::JSONOutputArchive& archive, const FloatNumber& value)
+    {
+        archive.saveValue(value.get());
+    }
+
+    static void load(cereal::JSONInputArchive& archive, FloatNumber& value)
+    {
+        double number = 0;
+        archive.loadValue(number);
+        value = FloatNumber(number);
+    }
+};
+
+/// The channels as unnamed values.
+template <class T>
+struct Persist<cinder::ColorT<T>> {
+    static void save(cereal::JSONOutputArchive& archive, const cinder::ColorT<T>& value)
+    {
+        archive.startObject();
+        archive(value.r, value.g, value.b);
+        archive.endObject();
+    }
+
+    static void load(cereal::JSONInputArchive& archive, cinder::ColorT<T>& value)
+    {
+        archive.enterObject();
+        archive(value.r, value.g, value.b);
+        archive.leave();
+    }
+};
+
+template <class T>
+struct Persist<cinder::ColorAT<T>> {
+    static void save(cereal::JSONOutputArchive& archive, const cinder::ColorAT<T>& value)
+    {
+        archive.startObject();
+        archive(value.r, value.g, value.b, value.a);
+        archive.endObject();
+    }
+
+    static void load(cereal::JSONInputArchive& archive, cinder::ColorAT<T>& value)
+    {
+        archive.enterObject();
+        archive(value.r, value.g, value.b, value.a);
+        archive.leave();
+    }
+};
+
+} // namespace QN
