@@ -1,0 +1,45 @@
+# What the library stands on. Boost and cereal show in its headers; the rest stays inside.
+
+if(POLICY CMP0167)
+    cmake_policy(SET CMP0167 NEW)
+endif()
+
+# 1.77 brings Boost.Describe, 1.81 the flat hash maps. All that is used is headers.
+find_package(Boost 1.81 REQUIRED)
+find_package(cereal REQUIRED)
+find_package(fmt REQUIRED)
+find_package(utf8cpp REQUIRED)
+find_path(DOM_RAPIDJSON_INCLUDE_DIR rapidjson/document.h REQUIRED)
+mark_as_advanced(DOM_RAPIDJSON_INCLUDE_DIR)
+
+add_library(dom_rapidjson INTERFACE)
+target_include_directories(dom_rapidjson SYSTEM INTERFACE ${DOM_RAPIDJSON_INCLUDE_DIR})
+
+add_library(dom_fmt INTERFACE)
+target_link_libraries(dom_fmt INTERFACE fmt::fmt)
+
+add_library(dom_utf8 INTERFACE)
+if(TARGET utf8cpp::utf8cpp)
+    target_link_libraries(dom_utf8 INTERFACE utf8cpp::utf8cpp)
+else()
+    target_link_libraries(dom_utf8 INTERFACE utf8cpp)
+endif()
+
+if(DOM_BUILD_TESTS)
+    find_package(Threads REQUIRED)
+    find_package(GTest REQUIRED)
+    find_package(rapidcheck CONFIG QUIET)
+    add_library(dom_rapidcheck INTERFACE)
+    if(TARGET rapidcheck)
+        target_link_libraries(dom_rapidcheck INTERFACE rapidcheck)
+    else()
+        find_path(DOM_RAPIDCHECK_INCLUDE_DIR rapidcheck.h REQUIRED)
+        find_library(DOM_RAPIDCHECK_LIBRARY rapidcheck REQUIRED)
+        mark_as_advanced(DOM_RAPIDCHECK_INCLUDE_DIR DOM_RAPIDCHECK_LIBRARY)
+        target_include_directories(dom_rapidcheck SYSTEM INTERFACE ${DOM_RAPIDCHECK_INCLUDE_DIR})
+        target_link_libraries(dom_rapidcheck INTERFACE ${DOM_RAPIDCHECK_LIBRARY})
+    endif()
+endif()
+if(DOM_BUILD_BENCHMARKS)
+    find_package(benchmark REQUIRED)
+endif()

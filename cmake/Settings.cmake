@@ -1,0 +1,46 @@
+# How every target of this project is compiled: language, visibility, warnings, instrumentation.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    find_program(DOM_CCACHE ccache)
+    mark_as_advanced(DOM_CCACHE)
+    if(DOM_CCACHE)
+        set(CMAKE_CXX_COMPILER_LAUNCHER ${DOM_CCACHE})
+    endif()
+endif()
+
+add_library(dom_settings INTERFACE)
+
+target_compile_options(dom_settings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+if(DOM_WERROR)
+    target_compile_options(dom_settings INTERFACE -Werror)
+endif()
+
+# File names in assertions and debug information are relative to the project.
+target_compile_options(dom_settings INTERFACE -ffile-prefix-map=${PROJECT_SOURCE_DIR}/=)
+
+if(DOM_SANITIZE)
+    set(sanitizers ${DOM_SANITIZE})
+    if(DOM_BUILD_FUZZERS)
+        string(APPEND sanitizers ",fuzzer-no-link")
+    endif()
+    target_compile_options(dom_settings INTERFACE
+        -fsanitize=${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(dom_settings INTERFACE -fsanitize=${DOM_SANITIZE})
+    if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
+        # Compares type information by address, which differs between the library and a program.
+        target_compile_options(dom_settings INTERFACE -fno-sanitize=function)
+    endif()
+endif()
+
+if(DOM_COVERAGE)
+    target_compile_options(dom_settings INTERFACE --coverage -fprofile-update=atomic)
+    target_link_options(dom_settings INTERFACE --coverage)
+endif()
