@@ -3,8 +3,7 @@
 include(CMakePackageConfigHelpers)
 
 install(TARGETS DOM EXPORT DOMTargets
-    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/libDOM)
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(DIRECTORY Utils CollaborationUtils DOM
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/libDOM
     FILES_MATCHING PATTERN "*.h")
@@ -21,5 +20,6 @@ install(FILES ${PROJECT_BINARY_DIR}/DOMConfig.cmake ${PROJECT_BINARY_DIR}/DOMCon
 # The file finds its prefix by its own place, so that an installed tree can be moved.
 cmake_path(SET pkgConfigDir NORMALIZE "/${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 file(RELATIVE_PATH DOM_PREFIX_FROM_PKGCONFIG ${pkgConfigDir} /)
+string(REGEX REPLACE "/$" "" DOM_PREFIX_FROM_PKGCONFIG ${DOM_PREFIX_FROM_PKGCONFIG})
 configure_file(cmake/libDOM.pc.in ${PROJECT_BINARY_DIR}/libDOM.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/libDOM.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
