@@ -3,10 +3,13 @@
 #include <boost/unordered/unordered_flat_map.hpp>
 
 #include <array>
+#include <bit>
 #include <charconv>
 #include <forward_list>
 #include <istream>
+#include <utility>
 
+#include "Utils/Public/Archive/JSONTape.h"
 #include "Utils/Public/Archive/PolymorphicRegistry.h"
 #include "Utils/Public/Archive/RapidJSON.h"
 
@@ -26,10 +29,7 @@ constexpr std::uint32_t FirstOccurrence = 0x80000000U;
 constexpr std::uint32_t IsStaticType = 0x40000000U;
 constexpr std::uint32_t IdMask = ~FirstOccurrence;
 
-constexpr unsigned ParseFlags = rapidjson::kParseIterativeFlag | rapidjson::kParseInsituFlag |
-                                rapidjson::kParseFullPrecisionFlag | rapidjson::kParseNanAndInfFlag;
-
-using Value = rapidjson::Value;
+using detail::TapeNode;
 
 /// The whole rest of a stream with a closing NUL.
 std::string readWhole(std::istream& stream)
@@ -59,45 +59,57 @@ std::string readWhole(std::istream& stream)
 
 /// A walk over the members of an object or the elements of an array.
 struct Frame {
-    const Value::Member* members = nullptr;
-    const Value* elements = nullptr;
-    rapidjson::SizeType size = 0;
-    rapidjson::SizeType next = 0;
-    std::uint32_t unnamed = 0;
-    bool isArray = false;
+    const TapeNode* begin;
+    const TapeNode* end;
+    const TapeNode* next;
+    std::uint32_t unnamed;
+    bool isArray;
 };
 
-Frame makeObjectFrame(const Value& object)
+/// Raises what a failed check of the parser's own values raises.
+void check(bool condition, const char* text)
 {
-    Frame frame;
-    RAPIDJSON_ASSERT(object.IsObject());
-    frame.size = object.MemberCount();
-    frame.members = frame.size == 0 ? nullptr : &*object.MemberBegin();
-    return frame;
+    if (!condition) [[unlikely]] {
+        detail::throwFailedCheck(text);
+    }
 }
 
-Frame makeArrayFrame(const Value& array)
+Frame makeFrame(const TapeNode& node, bool isArray)
 {
-    Frame frame;
-    frame.isArray = true;
-    frame.size = array.Size();
-    frame.elements = array.Begin();
-    return frame;
+    return {&node + 1, node.next(), &node + 1, 0, isArray};
 }
 
-bool isNamed(const Value::Member& member, std::string_view key)
+Frame makeObjectFrame(const TapeNode& node)
 {
-    return member.name.GetStringLength() == key.size() &&
-           std::memcmp(member.name.GetString(), key.data(), key.size()) == 0;
+    check(node.kind == TapeNode::Kind::Object, "IsObject()");
+    return makeFrame(node, false);
+}
+
+Frame makeArrayFrame(const TapeNode& node)
+{
+    check(node.kind == TapeNode::Kind::Array, "IsArray()");
+    return makeFrame(node, true);
+}
+
+/// The integer of a node if a `T` holds it.
+template <class T>
+T getInteger(const TapeNode& node, const char* text)
+{
+    const bool fits = (node.kind == TapeNode::Kind::NonNegative && std::in_range<T>(node.payload)) ||
+                      (node.kind == TapeNode::Kind::Negative &&
+                       std::in_range<T>(static_cast<std::int64_t>(node.payload)));
+    check(fits, text);
+    return static_cast<T>(node.payload);
 }
 
 } // namespace
 
 struct JSONInputArchive::Impl {
-    std::string text;
-    rapidjson::Document document;
+    explicit Impl(std::string text) : tape(std::move(text)) {}
+
+    detail::JSONTape tape;
     std::vector<Frame> frames;
-    const Value* current = nullptr;
+    const TapeNode* current = nullptr;
     boost::unordered_flat_map<std::uint32_t, SharedEntry> shared;
     std::forward_list<TypeEntry> typeEntries;
     boost::unordered_flat_map<std::uint32_t, TypeEntry*> types;
@@ -106,17 +118,11 @@ struct JSONInputArchive::Impl {
 JSONInputArchive::JSONInputArchive(std::istream& stream) : JSONInputArchive(stream, Options{}) {}
 
 JSONInputArchive::JSONInputArchive(std::istream& stream, const Options& options)
-    : _impl(std::make_unique<Impl>()), _nestingLimit(options.nestingLimit)
+    : _impl(std::make_unique<Impl>(readWhole(stream))), _nestingLimit(options.nestingLimit)
 {
-    Impl& impl = *_impl;
-    impl.text = readWhole(stream);
-    rapidjson::InsituStringStream text(impl.text.data());
-    impl.document.ParseStream<ParseFlags>(text);
-    if (impl.document.HasParseError() || text.Tell() != impl.text.size()) {
-        detail::throwFailedCheck("IsObject()");
-    }
-    impl.frames.push_back(impl.document.IsArray() ? makeArrayFrame(impl.document)
-                                                  : makeObjectFrame(impl.document));
+    const TapeNode& root = _impl->tape.root();
+    _impl->frames.push_back(root.kind == TapeNode::Kind::Array ? makeArrayFrame(root)
+                                                               : makeObjectFrame(root));
 }
 
 JSONInputArchive::~JSONInputArchive() = default;
@@ -128,14 +134,15 @@ void JSONInputArchive::seek(std::string_view key)
         seekUnnamed();
         return;
     }
-    if (frame.next < frame.size && isNamed(frame.members[frame.next], key)) [[likely]] {
-        _impl->current = &frame.members[frame.next++].value;
+    if (frame.next != frame.end && frame.next->string() == key) [[likely]] {
+        _impl->current = frame.next + 1;
+        frame.next = _impl->current->next();
         return;
     }
-    for (rapidjson::SizeType index = 0; index < frame.size; ++index) {
-        if (isNamed(frame.members[index], key)) {
-            _impl->current = &frame.members[index].value;
-            frame.next = index + 1;
+    for (const TapeNode* name = frame.begin; name != frame.end; name = (name + 1)->next()) {
+        if (name->string() == key) {
+            _impl->current = name + 1;
+            frame.next = _impl->current->next();
             return;
         }
     }
@@ -146,10 +153,11 @@ void JSONInputArchive::seekUnnamed()
 {
     Frame& frame = _impl->frames.back();
     if (frame.isArray) {
-        if (frame.next >= frame.size) {
+        if (frame.next == frame.end) {
             throw Exception("Invalid Iterator Type!");
         }
-        _impl->current = &frame.elements[frame.next++];
+        _impl->current = frame.next;
+        frame.next = frame.next->next();
         return;
     }
     std::array<char, 16> name{'v', 'a', 'l', 'u', 'e'};
@@ -174,7 +182,7 @@ std::size_t JSONInputArchive::enterArray()
 {
     countNesting();
     _impl->frames.push_back(makeArrayFrame(*_impl->current));
-    return _impl->frames.back().size;
+    return _impl->current->payload;
 }
 
 void JSONInputArchive::leave()
@@ -185,38 +193,53 @@ void JSONInputArchive::leave()
 
 bool JSONInputArchive::isPositiveBeyondInt64() const
 {
-    return _impl->current->IsUint64() && !_impl->current->IsInt64();
+    return _impl->current->kind == TapeNode::Kind::NonNegative &&
+           !std::in_range<std::int64_t>(_impl->current->payload);
 }
 
 void JSONInputArchive::loadValue(bool& value)
 {
-    RAPIDJSON_ASSERT(_impl->current->IsBool());
-    value = _impl->current->IsTrue();
+    const TapeNode::Kind kind = _impl->current->kind;
+    check(kind == TapeNode::Kind::True || kind == TapeNode::Kind::False, "IsBool()");
+    value = kind == TapeNode::Kind::True;
 }
 
 void JSONInputArchive::loadValue(std::int64_t& value)
 {
-    value = _impl->current->GetInt64();
+    value = getInteger<std::int64_t>(*_impl->current, "data_.f.flags & kInt64Flag");
 }
 
 void JSONInputArchive::loadValue(std::uint64_t& value)
 {
-    value = _impl->current->GetUint64();
+    value = getInteger<std::uint64_t>(*_impl->current, "data_.f.flags & kUint64Flag");
 }
 
 void JSONInputArchive::loadValue(std::int32_t& value)
 {
-    value = _impl->current->GetInt();
+    value = getInteger<std::int32_t>(*_impl->current, "data_.f.flags & kIntFlag");
 }
 
 void JSONInputArchive::loadValue(std::uint32_t& value)
 {
-    value = _impl->current->GetUint();
+    value = getInteger<std::uint32_t>(*_impl->current, "data_.f.flags & kUintFlag");
 }
 
 void JSONInputArchive::loadValue(double& value)
 {
-    value = _impl->current->GetDouble();
+    const TapeNode& node = *_impl->current;
+    switch (node.kind) {
+    case TapeNode::Kind::Double:
+        value = std::bit_cast<double>(node.payload);
+        break;
+    case TapeNode::Kind::NonNegative:
+        value = static_cast<double>(node.payload);
+        break;
+    case TapeNode::Kind::Negative:
+        value = static_cast<double>(static_cast<std::int64_t>(node.payload));
+        break;
+    default:
+        detail::throwFailedCheck("IsNumber()");
+    }
 }
 
 void JSONInputArchive::loadValue(std::string& value)
@@ -226,8 +249,8 @@ void JSONInputArchive::loadValue(std::string& value)
 
 std::string_view JSONInputArchive::loadString()
 {
-    RAPIDJSON_ASSERT(_impl->current->IsString());
-    return {_impl->current->GetString(), _impl->current->GetStringLength()};
+    check(_impl->current->kind == TapeNode::Kind::String, "IsString()");
+    return _impl->current->string();
 }
 
 void JSONInputArchive::throwOutOfRange()
