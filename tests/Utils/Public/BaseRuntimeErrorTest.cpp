@@ -1,0 +1,17 @@
+#include "Utils/Public/BaseRuntimeError.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <type_traits>
+
+namespace {
+
+TEST(BaseRuntimeErrorTest, IsARuntimeErrorWithTheGivenText)
+{
+    static_assert(std::is_base_of_v<std::runtime_error, QN::BaseRuntimeError>);
+    EXPECT_STREQ(QN::BaseRuntimeError("of no use").what(), "of no use");
+    EXPECT_STREQ(QN::BaseRuntimeError(std::string("of no use")).what(), "of no use");
+}
+
+} // namespace
