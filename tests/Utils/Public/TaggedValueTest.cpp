@@ -145,12 +145,13 @@ TEST(TaggedValueTest, ArithmeticWrapsAsThatOfAnUnsignedNumber)
     EXPECT_EQ(Month(250) + 10, Month(4));
 }
 
-TEST(TaggedValueTest, AddingToItselfDoubles)
+TEST(TaggedValueTest, OperandMayBeTheTargetItself)
 {
     Index index(5);
-    index += index;
+    const Index& self = index;
+    index += self;
     EXPECT_EQ(index, Index(10));
-    index -= index;
+    index -= self;
     EXPECT_EQ(index, Index(0));
 }
 

@@ -78,7 +78,8 @@ TEST(UUIDTest, MalformedTextIsRefusedAndQuoted)
 {
     EXPECT_EQ(getFailure(""), "Malformed UUID: \"\"");
     EXPECT_EQ(getFailure("219be34f"), "Malformed UUID: \"219be34f\"");
-    EXPECT_EQ(getFailure("219be34f-66e7-4590-8db5-375443207e4"), "Malformed UUID: \"219be34f-66e7-4590-8db5-375443207e4\"");
+    EXPECT_EQ(getFailure("219be34f-66e7-4590-8db5-375443207e4"),
+              "Malformed UUID: \"219be34f-66e7-4590-8db5-375443207e4\"");
     EXPECT_EQ(getFailure("219be34f-66e7-4590-8db5-375443207e49 "),
               "Malformed UUID: \"219be34f-66e7-4590-8db5-375443207e49 \"");
     EXPECT_EQ(getFailure("{19be34f-66e7-4590-8db5-375443207e4}"),

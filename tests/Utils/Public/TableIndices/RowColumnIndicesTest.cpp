@@ -29,7 +29,8 @@ TEST(RowColumnIndicesTest, EndMayBeTheBegin)
 
 TEST(RowColumnIndicesDeathTest, EndBeforeTheBeginBreaksTheContract)
 {
-    EXPECT_DEATH(getDistance(RowIndex(3), RowIndex(4)), "Utils/Public/TableIndices/RowColumnIndices:29: end >= begin\n");
+    EXPECT_DEATH(getDistance(RowIndex(3), RowIndex(4)),
+                 "Utils/Public/TableIndices/RowColumnIndices:29: end >= begin\n");
     EXPECT_DEATH(getDistance(ColumnIndex(0), ColumnIndex(Max)),
                  "Utils/Public/TableIndices/RowColumnIndices:29: end >= begin\n");
 }
