@@ -11,6 +11,7 @@
 #include <exception>
 #include <ostream>
 
+#include "Utils/Public/Archive/JSONText.h"
 #include "Utils/Public/Archive/PolymorphicRegistry.h"
 #include "Utils/Public/Archive/RapidJSON.h"
 
@@ -56,18 +57,6 @@ constexpr std::array<char, 128> makeEscapes()
 
 constexpr auto Escapes = makeEscapes();
 
-/// Whether one of eight bytes has to be escaped (each byte: below 0x20, a quote or a backslash), by the usual
-/// arithmetic on words.
-bool needsEscape(std::uint64_t bytes)
-{
-    constexpr std::uint64_t Ones = 0x0101010101010101U;
-    constexpr std::uint64_t Highs = 0x8080808080808080U;
-    const std::uint64_t quotes = bytes ^ (Ones * '"');
-    const std::uint64_t backslashes = bytes ^ (Ones * '\\');
-    const std::uint64_t found = (bytes - Ones * 0x20U) | (quotes - Ones) | (backslashes - Ones);
-    return (found & ~bytes & Highs) != 0;
-}
-
 char* copyEscaped(char* out, const char* in, const char* end)
 {
     constexpr std::string_view Digits = "0123456789ABCDEF";
@@ -75,7 +64,7 @@ char* copyEscaped(char* out, const char* in, const char* end)
         if (end - in >= 8) {
             std::uint64_t bytes;
             std::memcpy(&bytes, in, 8);
-            if (!needsEscape(bytes)) {
+            if (detail::findSpecialBytes(bytes) == 0) {
                 std::memcpy(out, in, 8);
                 in += 8;
                 out += 8;

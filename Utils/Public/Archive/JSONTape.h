@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "Utils/Public/Export.h"
+
 namespace cereal::detail {
 
 /// One value of a parsed text, or one key of an object.
@@ -27,7 +29,7 @@ struct TapeNode {
 /// A JSON text in parsed form: the nodes of all values one behind the other, in the order of the text, a member as its key
 /// and its value. Parsed in one pass and without recursion, whatever the nesting. Strings stay where they stand in
 /// the text, which is changed in place.
-class JSONTape {
+class DOM_API JSONTape {
 public:
     /// @throws RapidJSONException when the text is not one JSON value.
     explicit JSONTape(std::string text);
@@ -38,7 +40,7 @@ public:
     const TapeNode& root() const { return *_nodes; }
 
 private:
-    friend struct TapeBuilder;
+    friend class TapeParser;
 
     struct Release {
         void operator()(TapeNode* nodes) const { std::free(nodes); }

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string_view>
+
+namespace QN::Test {
+
+/// Whether loading the text may stop the process by contract: some object in it has the members of a range of positions,
+/// and its begin is not below its end. Everything else in a text must end in a document or an exception.
+bool holdsReversedIndexRange(std::string_view json);
+
+} // namespace QN::Test
