@@ -89,10 +89,10 @@ namespace QN::DOM {
 
 /// One transform. The place of an alternative is its number in a file: new ones may only be added at the end.
 using ColorTransform =
-    boost::variant<Alpha, AlphaModulation, AlphaOffset, Blue, BlueModulation, BlueOffset, Complement, Gamma, Gray,
-                   Green, GreenModulation, GreenOffset, Hue, HueModulation, HueOffset, Inverse, InverseGamma,
-                   Luminance, LuminanceModulation, LuminanceOffset, Red, RedModulation, RedOffset, Saturation,
-                   SaturationModulation, SaturationOffset, Tint, Shade>;
+    boost::variant<Alpha, AlphaModulation, AlphaOffset, Blue, BlueModulation, BlueOffset, Complement, Gamma,
+                   Gray, Green, GreenModulation, GreenOffset, Hue, HueModulation, HueOffset, Inverse,
+                   InverseGamma, Luminance, LuminanceModulation, LuminanceOffset, Red, RedModulation,
+                   RedOffset, Saturation, SaturationModulation, SaturationOffset, Tint, Shade>;
 
 /// Transforms in the order in which they apply. A kind may occur more than once.
 using ColorTransforms = boost::container::vector<ColorTransform>;

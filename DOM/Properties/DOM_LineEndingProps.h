@@ -8,7 +8,14 @@
 namespace QN::DOM {
 
 /// The shape at the end of a line.
-enum class EndingStyle : unsigned char { None = 0, Triangle = 1, Stealth = 2, Diamond = 3, Oval = 4, Arrow = 5 };
+enum class EndingStyle : unsigned char {
+    None = 0,
+    Triangle = 1,
+    Stealth = 2,
+    Diamond = 3,
+    Oval = 4,
+    Arrow = 5
+};
 
 /// What stands at one end of a line.
 class DOM_API LineEndingProps {
