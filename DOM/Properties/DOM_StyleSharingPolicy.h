@@ -1,0 +1,11 @@
+#pragma once
+
+namespace QN::DOM {
+
+/// What a factory makes of an empty style.
+enum class StyleSharingPolicy : unsigned char {
+    EmptyIsNull = 0,   ///< a null handle
+    EmptyIsShared = 1, ///< a shared style like any other
+};
+
+} // namespace QN::DOM
