@@ -1,0 +1,9 @@
+#include "DOM/Properties/DOM_SectionProps.h"
+
+#include "Utils/Public/ClassScheme/Define.h"
+
+namespace QN::DOM {
+
+QN_DEFINE_VALUE(SectionProps)
+
+} // namespace QN::DOM
