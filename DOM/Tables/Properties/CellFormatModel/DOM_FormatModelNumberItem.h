@@ -44,7 +44,10 @@ public:
     void setDisplayFactor(std::uint64_t displayFactor) { _displayFactor = displayFactor; }
 
     const std::vector<EmbeddedItem>& getEmbeddedItems() const { return _embeddedItems; }
-    void setEmbeddedItems(std::vector<EmbeddedItem> embeddedItems) { _embeddedItems = std::move(embeddedItems); }
+    void setEmbeddedItems(std::vector<EmbeddedItem> embeddedItems)
+    {
+        _embeddedItems = std::move(embeddedItems);
+    }
 
     QN_ORDERED_VALUE(NumberItem)
 
@@ -55,7 +58,8 @@ private:
     std::uint64_t _displayFactor = 0;
     std::vector<EmbeddedItem> _embeddedItems;
 
-    BOOST_DESCRIBE_CLASS(NumberItem, (), (), (), (_role, _pattern, _hasGrouping, _displayFactor, _embeddedItems))
+    BOOST_DESCRIBE_CLASS(NumberItem, (), (), (),
+                         (_role, _pattern, _hasGrouping, _displayFactor, _embeddedItems))
 };
 
 } // namespace QN::DOM::CellFormatModel

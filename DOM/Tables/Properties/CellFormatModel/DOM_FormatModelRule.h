@@ -67,7 +67,10 @@ public:
     void setLanguage(boost::optional<unsigned int> language) { _language = language; }
 
     const boost::optional<Transliteration>& getTransliteration() const { return _transliteration; }
-    void setTransliteration(boost::optional<Transliteration> transliteration) { _transliteration = transliteration; }
+    void setTransliteration(boost::optional<Transliteration> transliteration)
+    {
+        _transliteration = transliteration;
+    }
 
     QN_ORDERED_VALUE(Rule)
 
@@ -79,7 +82,8 @@ private:
     boost::optional<unsigned int> _language;
     boost::optional<Transliteration> _transliteration;
 
-    BOOST_DESCRIBE_CLASS(Rule, (), (), (), (_items, _condition, _color, _calendar, _language, _transliteration))
+    BOOST_DESCRIBE_CLASS(Rule, (), (), (),
+                         (_items, _condition, _color, _calendar, _language, _transliteration))
 };
 
 } // namespace QN::DOM::CellFormatModel

@@ -15,7 +15,9 @@ public:
     enum class Type : std::int32_t { Literal = 0, CellText = 1 };
 
     TextItem() = default;
-    explicit TextItem(Type type, std::string textValue = {}) : _type(type), _textValue(std::move(textValue)) {}
+    explicit TextItem(Type type, std::string textValue = {}) : _type(type), _textValue(std::move(textValue))
+    {
+    }
 
     Type getType() const { return _type; }
     void setType(Type type) { _type = type; }

@@ -35,7 +35,8 @@ const DateTimePatternItemSet& getDefaultItems(DateTimeDefaultType type)
     using enum DateTimePatternToken;
     static const DateTimePatternItemSet DateItems{{Month, 0}, {Day, 0}, {Year, 0}};
     static const DateTimePatternItemSet TimeItems{{Hour, 0}, {Minute, 0}, {Second, 0}};
-    static const DateTimePatternItemSet DateTimeItems{{Month, 0}, {Day, 0}, {Year, 0}, {Hour, 0}, {Minute, 0}};
+    static const DateTimePatternItemSet DateTimeItems{
+        {Month, 0}, {Day, 0}, {Year, 0}, {Hour, 0}, {Minute, 0}};
     static const DateTimePatternItemSet NoItems;
     switch (type) {
     case DateTimeDefaultType::Date:

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <boost/optional/optional.hpp>
+
+#include <cstdint>
+#include <utility>
+
+#include "DOM/FormulaSyntaxTree/DOM_Expr.h"
+#include "Utils/Public/ClassScheme/Declare.h"
+#include "Utils/Public/Size2D.h"
+
+namespace QN::DOM {
+
+/// What computes the value of a cell, or of the block of cells that an array formula covers from its root cell on.
+class DOM_API Formula {
+public:
+    Formula() = default;
+    Formula(FormulaSyntaxTree::ExprPtr syntaxTree, bool forceFormula)
+        : _forceFormula(forceFormula), _formulaSyntaxTree(std::move(syntaxTree))
+    {
+    }
+    /// Copies the tree without recursion. A tree in which a call has no arguments cannot be copied: see
+    /// `FormulaSyntaxTree::BaseCompoundExpr`.
+    QN_DEEP_COPY(Formula)
+
+    /// Set for an array formula: the size of its block. An empty one makes an ordinary formula.
+    const boost::optional<Size2D<std::uint64_t>>& getArrayFormulaSize() const { return _arrayFormulaSize; }
+    void setArrayFormulaSize(boost::optional<Size2D<std::uint64_t>> size) { _arrayFormulaSize = size; }
+
+    /// Whether the cell is a formula even where a plain value would serve.
+    bool isForceFormula() const { return _forceFormula; }
+
+    /// Null in a default formula.
+    const FormulaSyntaxTree::ExprPtr& getSyntaxTree() const { return _formulaSyntaxTree; }
+    FormulaSyntaxTree::ExprPtr& getSyntaxTree() { return _formulaSyntaxTree; }
+
+    QN_VALUE(Formula)
+
+private:
+    boost::optional<Size2D<std::uint64_t>> _arrayFormulaSize;
+    bool _forceFormula = false;
+    FormulaSyntaxTree::ExprPtr _formulaSyntaxTree;
+
+    BOOST_DESCRIBE_CLASS(Formula, (), (), (), (_arrayFormulaSize, _forceFormula, _formulaSyntaxTree))
+};
+
+} // namespace QN::DOM
