@@ -1,0 +1,54 @@
+#pragma once
+
+#include <boost/variant/variant.hpp>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include "DOM/DOM_Block.h"
+#include "DOM/DOM_TableOfContentsInfo.h"
+#include "DOM/Properties/DOM_Hyperlink.h"
+#include "DOM/Tables/DOM_ArrayFormulaShift.h"
+#include "DOM/Tables/DOM_BlockValue.h"
+#include "DOM/Tables/DOM_Formula.h"
+
+namespace QN::DOM {
+
+/// A computed or typed value in the place of text: what a cell of a sheet holds, or a table of contents. A cell with a
+/// value has exactly one.
+class DOM_API FieldBlock final : public Reflectable<Block> {
+public:
+    using FieldInfo = boost::variant<Formula, ArrayFormulaShift, BlockValue<FloatNumber>,
+                                     BlockValue<FormulaErrorType>, BlockValue<bool>, TableOfContentsInfo>;
+
+    /// An empty formula.
+    FieldBlock() = default;
+    explicit FieldBlock(FieldInfo info) : _fieldInfo(std::move(info)) {}
+    /// Formulas are copied with their trees, the hyperlink is shared.
+    QN_DEEP_COPY(FieldBlock)
+    ~FieldBlock() override = default;
+
+    const FieldInfo& getFieldInfo() const { return _fieldInfo; }
+    FieldInfo& getFieldInfo() { return _fieldInfo; }
+
+    /// The link on the whole block; null for none.
+    const std::shared_ptr<const Hyperlink>& getHyperlink() const { return _hyperlink; }
+    void setHyperlink(std::shared_ptr<const Hyperlink> hyperlink) { _hyperlink = std::move(hyperlink); }
+
+    const std::vector<UUID>& getCommentUUIDs() const { return _commentUUIDs; }
+    std::vector<UUID>& getCommentUUIDs() { return _commentUUIDs; }
+
+    /// The hyperlinks compare by value.
+    QN_VALUE(FieldBlock)
+    QN_CONCRETE(Block)
+
+private:
+    FieldInfo _fieldInfo;
+    std::shared_ptr<const Hyperlink> _hyperlink;
+    std::vector<UUID> _commentUUIDs;
+
+    BOOST_DESCRIBE_CLASS(FieldBlock, (Block), (), (), (_fieldInfo, _hyperlink, _commentUUIDs))
+};
+
+} // namespace QN::DOM

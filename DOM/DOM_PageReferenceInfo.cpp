@@ -1,0 +1,9 @@
+#include "DOM/DOM_PageReferenceInfo.h"
+
+#include "Utils/Public/ClassScheme/Define.h"
+
+namespace QN::DOM {
+
+QN_DEFINE_VALUE(PageReferenceInfo)
+
+} // namespace QN::DOM
