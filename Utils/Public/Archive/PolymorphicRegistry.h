@@ -31,8 +31,10 @@ private:
 template <class T>
 class TypeNameProvider : public TypeNameProviderBase {};
 
+// The three tables are exported so that a program's own types are entered in those of the library, and not in copies.
+
 /// From a persisted name to its type.
-struct TypeNameMap {
+struct DOM_API TypeNameMap {
     boost::unordered_flat_map<std::string_view, std::type_index> map;
 };
 
@@ -52,12 +54,12 @@ struct InputBinding {
 };
 
 template <class Archive>
-struct OutputBindingMap {
+struct DOM_API OutputBindingMap {
     boost::unordered_flat_map<std::type_index, OutputBinding> map;
 };
 
 template <class Archive>
-struct InputBindingMap {
+struct DOM_API InputBindingMap {
     boost::unordered_flat_map<std::type_index, InputBinding> map;
 };
 
