@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "Utils/Public/Archive/Persist.h"
+#include "Utils/Public/Archive/PersistStandard.h"
 #include "Utils/Public/BoolOpt.h"
 #include "Utils/Public/Cinder.h"
 #include "Utils/Public/FloatNumber.h"
@@ -122,6 +123,69 @@ struct Persist<cinder::ColorAT<T>> {
         archive.enterObject();
         archive(value.r, value.g, value.b, value.a);
         archive.leave();
+    }
+};
+
+/// The coordinates under their names.
+template <class T>
+struct Persist<cinder::Vec2<T>> {
+    static void save(cereal::JSONOutputArchive& archive, const cinder::Vec2<T>& value)
+    {
+        archive.startObject();
+        archive.member("x", value.x);
+        archive.member("y", value.y);
+        archive.endObject();
+    }
+
+    static void load(cereal::JSONInputArchive& archive, cinder::Vec2<T>& value)
+    {
+        archive.enterObject();
+        archive.member("x", value.x);
+        archive.member("y", value.y);
+        archive.leave();
+    }
+};
+
+template <class T>
+struct Persist<cinder::Vec3<T>> {
+    static void save(cereal::JSONOutputArchive& archive, const cinder::Vec3<T>& value)
+    {
+        archive.startObject();
+        archive.member("x", value.x);
+        archive.member("y", value.y);
+        archive.member("z", value.z);
+        archive.endObject();
+    }
+
+    static void load(cereal::JSONInputArchive& archive, cinder::Vec3<T>& value)
+    {
+        archive.enterObject();
+        archive.member("x", value.x);
+        archive.member("y", value.y);
+        archive.member("z", value.z);
+        archive.leave();
+    }
+};
+
+/// An object with the keys "_points" and "_closed".
+template <class Point>
+struct Persist<cinder::PolyLine<Point>> {
+    static void save(cereal::JSONOutputArchive& archive, const cinder::PolyLine<Point>& value)
+    {
+        archive.startObject();
+        archive.member("_points", value.getPoints());
+        archive.member("_closed", value.isClosed());
+        archive.endObject();
+    }
+
+    static void load(cereal::JSONInputArchive& archive, cinder::PolyLine<Point>& value)
+    {
+        bool isClosed = false;
+        archive.enterObject();
+        archive.member("_points", value.getPoints());
+        archive.member("_closed", isClosed);
+        archive.leave();
+        value.setClosed(isClosed);
     }
 };
 

@@ -7,6 +7,7 @@
 #include <compare>
 #include <string>
 
+#include "Utils/Public/Cinder.h"
 #include "Utils/Public/ClassScheme/Declare.h"
 #include "Utils/Public/ClassScheme/Members.h"
 #include "Utils/Public/ClassScheme/TypeTraits.h"
@@ -119,6 +120,16 @@ std::partial_ordering compareDeeply(const T& left, const T& right, NanOrder nanO
     } else if constexpr (IsPair<T>) {
         const auto first = compareDeeply(left.first, right.first, nanOrder);
         return first != 0 ? first : compareDeeply(left.second, right.second, nanOrder);
+    } else if constexpr (InstanceOf<T, cinder::Vec2>) {
+        const auto first = compareDeeply(left.x, right.x, nanOrder);
+        return first != 0 ? first : compareDeeply(left.y, right.y, nanOrder);
+    } else if constexpr (InstanceOf<T, cinder::Vec3>) {
+        const auto first = compareDeeply(left.x, right.x, nanOrder);
+        const auto second = first != 0 ? first : compareDeeply(left.y, right.y, nanOrder);
+        return second != 0 ? second : compareDeeply(left.z, right.z, nanOrder);
+    } else if constexpr (InstanceOf<T, cinder::PolyLine>) {
+        const auto points = compareDeeply(left.getPoints(), right.getPoints(), nanOrder);
+        return points != 0 ? points : left.isClosed() <=> right.isClosed();
     } else if constexpr (requires { left.compare(right, nanOrder); }) {
         return left.compare(right, nanOrder);
     } else if constexpr (requires { compareDeeply(left.get(), right.get(), nanOrder); }) {
