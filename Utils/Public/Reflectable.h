@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <tuple>
 #include <utility>
 
 /// How a class states its bases. A concrete class `D` of a family with root `B` derives from `Reflectable<B>`, a
@@ -31,7 +33,26 @@ public:
 };
 
 template <class B1, class B2>
-class BasesInitializer<B1, B2> : public BaseInitializer<B1>, public BaseInitializer<B2> {};
+class BasesInitializer<B1, B2> : public BaseInitializer<B1>, public BaseInitializer<B2> {
+public:
+    BasesInitializer() = default;
+
+    /// Constructs each base from the arguments in its tuple.
+    template <class... Args1, class... Args2>
+    BasesInitializer(std::piecewise_construct_t, std::tuple<Args1...> first, std::tuple<Args2...> second)
+        : BasesInitializer(first, std::index_sequence_for<Args1...>(), second, std::index_sequence_for<Args2...>())
+    {
+    }
+
+private:
+    template <class First, std::size_t... Indices1, class Second, std::size_t... Indices2>
+    BasesInitializer([[maybe_unused]] First& first, std::index_sequence<Indices1...>,
+                     [[maybe_unused]] Second& second, std::index_sequence<Indices2...>)
+        : BaseInitializer<B1>(std::get<Indices1>(std::move(first))...),
+          BaseInitializer<B2>(std::get<Indices2>(std::move(second))...)
+    {
+    }
+};
 
 template <class... Bs>
 class Reflectable : public BasesInitializer<Bs...> {
