@@ -40,7 +40,8 @@ public:
     /// Constructs each base from the arguments in its tuple.
     template <class... Args1, class... Args2>
     BasesInitializer(std::piecewise_construct_t, std::tuple<Args1...> first, std::tuple<Args2...> second)
-        : BasesInitializer(first, std::index_sequence_for<Args1...>(), second, std::index_sequence_for<Args2...>())
+        : BasesInitializer(first, std::index_sequence_for<Args1...>(), second,
+                           std::index_sequence_for<Args2...>())
     {
     }
 
