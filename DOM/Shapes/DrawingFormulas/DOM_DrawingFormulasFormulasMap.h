@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "DOM/Shapes/DrawingFormulas/DOM_DrawingFormulasExpression.h"
+
+namespace QN::DOM::DrawingFormulas {
+
+/// The named formulas of a custom geometry. Other formulas reach them by position. There are as many names as formulas;
+/// a name need not be unique. A load takes both lists as they stand, and `add` is what checks them.
+class DOM_API FormulasMap {
+public:
+    FormulasMap() = default;
+    QN_DEEP_COPY(FormulasMap)
+
+    /// Appends.
+    /// @return the position of the new formula.
+    unsigned long add(std::string name, std::unique_ptr<Expression> formula);
+
+    /// Null when out of range.
+    const Expression* get(unsigned long index) const;
+    /// Null when out of range. Invalidated by `add`.
+    const std::string* getName(unsigned long index) const;
+    /// The formula that was added last under the name; null when there is none. Linear.
+    const Expression* find(const std::string& name) const;
+    unsigned long size() const { return _formulas.size(); }
+
+    QN_VALUE(FormulasMap)
+
+private:
+    std::vector<std::unique_ptr<Expression>> _formulas;
+    std::vector<std::string> _formulaNames;
+
+    BOOST_DESCRIBE_CLASS(FormulasMap, (), (), (), (_formulas, _formulaNames))
+};
+
+} // namespace QN::DOM::DrawingFormulas
