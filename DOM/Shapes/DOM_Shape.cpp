@@ -4,6 +4,10 @@
 
 namespace QN::DOM {
 
+namespace {
+const GeometriesDynamicInitEnforcer geometriesDynamicInitEnforcer;
+}
+
 QN_DEFINE_DEEP_COPY_WITH_BASE(Shape, Reflectable<Block>)
 QN_DEFINE_VALUE(Shape)
 QN_DEFINE_CONCRETE(Shape, Block)
