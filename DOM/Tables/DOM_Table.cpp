@@ -1,0 +1,82 @@
+#include "DOM/Tables/DOM_Table.h"
+
+#include "DOM/Tables/DOM_RowColIDGenerator.h"
+#include "Utils/Public/ClassScheme/Define.h"
+
+namespace QN::DOM {
+
+Table::Table() : _chunks(1), _rowIDContainer(MaxRows), _colIDContainer(MaxColumns) {}
+
+Table::Table(RowIndex rows, ColumnIndex columns) : Table()
+{
+    _rowsCount = rows.get();
+    _colsCount = columns.get();
+}
+
+Table::Table(std::uint64_t maxChunkSize) : Table()
+{
+    _maxChunkSize = maxChunkSize;
+}
+
+Table::~Table() = default;
+
+QN_DEFINE_DEEP_COPY_WITH_BASE(Table, Reflectable<Block, UUIDable>)
+QN_DEFINE_CONCRETE(Table, Block)
+
+boost::optional<RowIndex> Table::getIndex(RowID id) const
+{
+    const std::uint64_t index = _rowIDContainer.getIndex(id.get());
+    const bool isLive = index != _rowIDContainer.getPredefinedIDsCount() && index < MaxRows;
+    return boost::make_optional(isLive, RowIndex(index));
+}
+
+boost::optional<ColumnIndex> Table::getIndex(ColumnID id) const
+{
+    const std::uint64_t index = _colIDContainer.getIndex(id.get());
+    const bool isLive = index != _colIDContainer.getPredefinedIDsCount() && index < MaxColumns;
+    return boost::make_optional(isLive, ColumnIndex(index));
+}
+
+template <class ID>
+ID Table::generateID() const
+{
+    const RowColIDContainer& container = std::is_same_v<ID, RowID> ? _rowIDContainer : _colIDContainer;
+    std::uint64_t id = RowColIDGenerator::generate();
+    while (container.containsInsertedID(id)) {
+        id = RowColIDGenerator::generate();
+    }
+    return ID(id);
+}
+
+template RowID Table::generateID<RowID>() const;
+template ColumnID Table::generateID<ColumnID>() const;
+
+void Table::setHeaderRowsCols(RowIndex beginRow, ColumnIndex beginColumn, RowIndex lastRow, ColumnIndex lastColumn)
+{
+    HeaderRowsCols headers;
+    headers.setBeginRow(getID(beginRow));
+    headers.setLastRow(getID(lastRow));
+    headers.setBeginCol(getID(beginColumn));
+    headers.setLastCol(getID(lastColumn));
+    _headerRowsCols = headers;
+}
+
+void Table::validate() const
+{
+    _rowIDContainer.validate();
+    _colIDContainer.validate();
+
+    struct Bounds {
+        RowIndex rowIndex;
+        ColumnIndex colIndex;
+    };
+    const auto toBounds = [](const CellIndex& cell) { return Bounds{cell.getRow(), cell.getColumn()}; };
+    const Bounds mergedCellsBounds = toBounds(_mergedCellsCache.getBottomRightCellIndex());
+    QN_ASSERT(getLiveRowsCount().get() > mergedCellsBounds.rowIndex.get());
+    QN_ASSERT(getLiveColsCount().get() > mergedCellsBounds.colIndex.get());
+    const Bounds pivotTablesBounds = toBounds(_pivotTablesCache.getBottomRightCellIndex());
+    QN_ASSERT(getLiveRowsCount().get() > pivotTablesBounds.rowIndex.get());
+    QN_ASSERT(getLiveColsCount().get() > pivotTablesBounds.colIndex.get());
+}
+
+} // namespace QN::DOM

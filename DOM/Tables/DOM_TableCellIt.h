@@ -1,0 +1,72 @@
+#pragma once
+
+#include <cstddef>
+#include <type_traits>
+
+#include "DOM/Tables/DOM_CellInfo.h"
+#include "DOM/Tables/DOM_RowColumnID.h"
+#include "Utils/Public/TableIndices/RowColumnIndex.h"
+
+namespace QN::DOM {
+
+/// Walks the stored cells of a whole table, row by row, and passes over runs of empty rows at once: a walk costs in
+/// proportion to the stored cells. Any structural change of the table invalidates it.
+///
+/// A stored cell of a loaded table may be null.
+template <class TableType>
+class TableCellIt {
+public:
+    using CellType = std::conditional_t<std::is_const_v<TableType>, const Cell, Cell>;
+
+    /// At the first stored cell, or behind the last one.
+    explicit TableCellIt(TableType& table, bool atEnd = false);
+    /// At the first stored cell at or behind a position.
+    TableCellIt(TableType& table, RowIndex row, ColumnIndex column);
+
+    /// Null at the end.
+    CellType* operator*() const;
+    CellType* operator->() const { return **this; }
+
+    TableCellIt& operator++();
+    /// Stays where it is when there is no earlier stored cell.
+    TableCellIt& operator--();
+
+    /// Two iterators over one table are equal when they stand at the same stored cell, or both at the end.
+    bool operator==(const TableCellIt& other) const
+    {
+        return _row == other._row && _dataIndex == other._dataIndex;
+    }
+    bool operator<(const TableCellIt& other) const;
+
+    TableType& getTable() const { return *_table; }
+    RowIndex getRowIndex() const { return _row; }
+    /// 0 at the end.
+    ColumnIndex getColIndex() const;
+    RowID getRowID() const;
+    /// That of column 0 where there is no cell.
+    ColumnID getColID() const;
+    CellInfo getCellInfo() const;
+
+    std::size_t getChunkIndex() const { return _chunkIndex; }
+    /// The place of the cell among all cells of its chunk.
+    std::size_t getDataIndex() const { return _dataIndex; }
+
+    /// Whether no stored cell is left.
+    bool isAtEnd() const;
+
+private:
+    void setDataIteratorsForRow();
+    void updateForNextValidCell();
+
+    TableType* _table;
+    RowIndex _row;
+    std::size_t _chunkIndex = 0;
+    std::size_t _dataIndex = 0;
+    std::size_t _rowBegin = 0;
+    std::size_t _rowEnd = 0;
+};
+
+extern template class DOM_API TableCellIt<Table>;
+extern template class DOM_API TableCellIt<const Table>;
+
+} // namespace QN::DOM

@@ -1,0 +1,84 @@
+#include "DOM/Tables/DOM_TableChunk.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "Utils/Public/TableIndices/RowColumnIndices.h"
+
+namespace QN::DOM {
+
+CellDataByCol::CellDataByCol(const CellDataByCol& other)
+    : cell(other.cell ? std::make_unique<Cell>(*other.cell) : nullptr), colID(other.colID)
+{
+}
+
+std::size_t TableChunk::getRelativeRow(RowIndex row) const
+{
+    return getDistance(row, startRowIndex);
+}
+
+TableChunk::Boundaries TableChunk::getRelativeRowBoundaries(std::size_t relativeRow) const
+{
+    const std::size_t size = data.size();
+    if (relativeRow >= rowDataOffsets.size()) {
+        return {size, size};
+    }
+    const std::size_t begin = std::min<std::size_t>(rowDataOffsets[relativeRow], size);
+    const std::size_t end = relativeRow + 1 < rowDataOffsets.size()
+                                ? std::min<std::size_t>(rowDataOffsets[relativeRow + 1], size)
+                                : size;
+    return {begin, std::max(begin, end)};
+}
+
+void TableChunk::extendTo(std::size_t relativeRow)
+{
+    if (relativeRow >= rowDataOffsets.size()) {
+        rowDataOffsets.resize(relativeRow + 1, data.size());
+    }
+}
+
+void TableChunk::raiseOffsetsBehind(std::size_t relativeRow, std::uint64_t delta)
+{
+    for (std::size_t row = relativeRow + 1; row < rowDataOffsets.size(); ++row) {
+        rowDataOffsets[row] += delta;
+    }
+}
+
+void TableChunk::lowerOffsetsBehind(std::size_t relativeRow, std::uint64_t delta)
+{
+    for (std::size_t row = relativeRow + 1; row < rowDataOffsets.size(); ++row) {
+        rowDataOffsets[row] -= std::min(rowDataOffsets[row], delta);
+    }
+}
+
+std::size_t TableChunk::getChunkMedian() const
+{
+    const std::size_t rows = rowDataOffsets.size();
+    if (rows < 2) {
+        return 0;
+    }
+    const auto offset = std::lower_bound(rowDataOffsets.begin(), rowDataOffsets.end(), data.size() / 2);
+    const auto median = static_cast<std::size_t>(offset - rowDataOffsets.begin());
+    return std::clamp<std::size_t>(median, 1, rows - 1);
+}
+
+TableChunk TableChunk::split(std::size_t median)
+{
+    const auto firstOffset = rowDataOffsets.begin() + static_cast<std::ptrdiff_t>(median);
+    const std::uint64_t remaining = std::min<std::uint64_t>(*firstOffset, data.size());
+    const auto firstCell = data.begin() + static_cast<std::ptrdiff_t>(remaining);
+
+    TableChunk tail;
+    tail.startRowIndex = startRowIndex + median;
+    tail.rowDataOffsets.reserve(rowDataOffsets.size() - median);
+    std::transform(firstOffset, rowDataOffsets.end(), std::back_inserter(tail.rowDataOffsets),
+                   [&](std::uint64_t offset) { return offset - std::min(offset, remaining); });
+    tail.data.reserve(data.size() - remaining);
+    std::move(firstCell, data.end(), std::back_inserter(tail.data));
+
+    data.erase(firstCell, data.end());
+    rowDataOffsets.erase(firstOffset, rowDataOffsets.end());
+    return tail;
+}
+
+} // namespace QN::DOM

@@ -1,0 +1,271 @@
+#include <algorithm>
+
+#include "DOM/Tables/DOM_PivotTable.h"
+#include "DOM/Tables/DOM_Table.h"
+#include "Utils/Public/Assert.h"
+
+/// Finding, storing and dropping single cells.
+
+namespace QN::DOM {
+
+namespace {
+
+/// The position of a vector's element.
+template <class Vector>
+auto at(Vector& vector, std::size_t place)
+{
+    return vector.begin() + static_cast<std::ptrdiff_t>(place);
+}
+
+TableRange getCapturedRange(RowIndex row, ColumnIndex column, std::uint64_t capturedRows, std::uint64_t capturedColumns)
+{
+    return {row, row + 1 + capturedRows, column, column + 1 + capturedColumns};
+}
+
+void checkLimits(RowIndex rowIndex, ColumnIndex colIndex)
+{
+    QN_ASSERT(rowIndex.get() < DOM::MaxRows);
+    QN_ASSERT(colIndex.get() < DOM::MaxColumns);
+}
+
+} // namespace
+
+std::size_t Table::findChunk(RowIndex row) const
+{
+    const auto behind = std::upper_bound(
+        _chunks.begin(), _chunks.end(), row,
+        [](RowIndex value, const TableChunk& chunk) { return value < chunk.startRowIndex; });
+    return behind == _chunks.begin() ? 0 : static_cast<std::size_t>(behind - _chunks.begin()) - 1;
+}
+
+TableChunk::Boundaries Table::getRowBoundaries(std::size_t chunk, RowIndex row) const
+{
+    return _chunks[chunk].getRelativeRowBoundaries(_chunks[chunk].getRelativeRow(row));
+}
+
+std::size_t Table::getLBCell(const TableChunk& chunk, const TableChunk::Boundaries& boundaries,
+                             ColumnIndex column) const
+{
+    const auto place = std::lower_bound(at(chunk.data, boundaries.begin), at(chunk.data, boundaries.end), column.get(),
+                                        [&](const CellDataByCol& cell, std::uint64_t value) {
+                                            return _colIDContainer.getIndex(cell.colID.get()) < value;
+                                        });
+    return static_cast<std::size_t>(place - chunk.data.begin());
+}
+
+std::size_t Table::getUBCell(const TableChunk& chunk, const TableChunk::Boundaries& boundaries,
+                             ColumnIndex column) const
+{
+    const auto place = std::upper_bound(at(chunk.data, boundaries.begin), at(chunk.data, boundaries.end), column.get(),
+                                        [&](std::uint64_t value, const CellDataByCol& cell) {
+                                            return value < _colIDContainer.getIndex(cell.colID.get());
+                                        });
+    return static_cast<std::size_t>(place - chunk.data.begin());
+}
+
+const Cell* Table::getCell(RowIndex row, ColumnIndex column) const
+{
+    const std::size_t chunkIndex = findChunk(row);
+    const TableChunk& chunk = _chunks[chunkIndex];
+    const TableChunk::Boundaries boundaries = getRowBoundaries(chunkIndex, row);
+    const std::size_t place = getLBCell(chunk, boundaries, column);
+    if (place == boundaries.end || _colIDContainer.getIndex(chunk.data[place].colID.get()) != column.get()) {
+        return nullptr;
+    }
+    return chunk.data[place].cell.get();
+}
+
+Cell* Table::getCell(RowIndex row, ColumnIndex column)
+{
+    return const_cast<Cell*>(std::as_const(*this).getCell(row, column));
+}
+
+const Cell* Table::getCellById(RowID rowID, ColumnID columnID) const
+{
+    const auto row = getIndex(rowID);
+    const auto column = getIndex(columnID);
+    return row && column ? getCell(*row, *column) : nullptr;
+}
+
+Cell* Table::getCellById(RowID rowID, ColumnID columnID)
+{
+    return const_cast<Cell*>(std::as_const(*this).getCellById(rowID, columnID));
+}
+
+CellInfo Table::getCellInfo(RowIndex row, ColumnIndex column) const
+{
+    return {this, getCell(row, column), row, column, getID(row), getID(column)};
+}
+
+Table::Place Table::findPlace(RowIndex row, ColumnIndex column)
+{
+    Place place;
+    place.chunk = findChunk(row);
+    TableChunk& chunk = _chunks[place.chunk];
+    place.relativeRow = chunk.getRelativeRow(row);
+    chunk.extendTo(place.relativeRow);
+    const TableChunk::Boundaries boundaries = chunk.getRelativeRowBoundaries(place.relativeRow);
+    place.data = getLBCell(chunk, boundaries, column);
+    place.isOccupied = place.data != boundaries.end && chunk.data[place.data].colID == getID(column);
+    return place;
+}
+
+void Table::insertAt(const Place& place, std::unique_ptr<Cell> cell, ColumnID id)
+{
+    TableChunk& chunk = _chunks[place.chunk];
+    chunk.data.emplace(at(chunk.data, place.data), std::move(cell), id);
+}
+
+void Table::splitChunkIfNeeded(std::size_t chunkIndex)
+{
+    if (_chunks[chunkIndex].data.size() > _maxChunkSize) {
+        splitChunk(chunkIndex);
+    }
+}
+
+void Table::splitChunk(std::size_t chunkIndex)
+{
+    const std::size_t median = _chunks[chunkIndex].getChunkMedian();
+    if (median == 0) {
+        return;
+    }
+    _chunks.reserve(_chunks.size() + 1);
+    _chunks.insert(at(_chunks, chunkIndex + 1), _chunks[chunkIndex].split(median));
+}
+
+Cell& Table::getOrCreateCell(RowIndex row, ColumnIndex column)
+{
+    checkLimits(row, column);
+    const Place place = findPlace(row, column);
+    if (place.isOccupied) {
+        std::unique_ptr<Cell>& stored = _chunks[place.chunk].data[place.data].cell;
+        if (!stored) {
+            stored = std::make_unique<Cell>();
+        }
+        return *stored;
+    }
+    ensureSize(row + 1, column + 1);
+    auto created = std::make_unique<Cell>();
+    Cell& cell = *created;
+    insertAt(place, std::move(created), getID(column));
+    _chunks[place.chunk].raiseOffsetsBehind(place.relativeRow, 1);
+    splitChunkIfNeeded(place.chunk);
+    return cell;
+}
+
+void Table::setCell(RowIndex row, ColumnIndex column, std::unique_ptr<Cell> cell)
+{
+    checkLimits(row, column);
+    const CellMergeProps& mergeProps = getCellMergeProps(cell.get());
+    const std::uint64_t capturedRows = mergeProps.getCapturedRowsCount();
+    const std::uint64_t capturedColumns = mergeProps.getCapturedColsCount();
+    ensureSize(row + 1 + capturedRows, column + 1 + capturedColumns);
+    const Place place = findPlace(row, column);
+    if (capturedRows == 0 && capturedColumns == 0) {
+        _mergedCellsCache.unmergeCells(row, column);
+    } else {
+        _mergedCellsCache.mergeCells(getCapturedRange(row, column, capturedRows, capturedColumns));
+    }
+    if (cell && cell->getPivotTable() != nullptr) {
+        _pivotTablesCache.addPivot(row, column, cell->getPivotTable()->getSize());
+    } else {
+        _pivotTablesCache.removePivot(row, column);
+    }
+    if (place.isOccupied) {
+        _chunks[place.chunk].data[place.data].cell.swap(cell);
+    } else {
+        insertAt(place, std::move(cell), getID(column));
+    }
+    // Also where a cell was replaced: fixed behaviour, see the declaration.
+    _chunks[place.chunk].raiseOffsetsBehind(place.relativeRow, 1);
+    splitChunkIfNeeded(place.chunk);
+}
+
+void Table::setCell(RowIndex row, ColumnIndex column, std::unique_ptr<Cell> cell, const CellMergeProps& mergeProps)
+{
+    derefRequired(cell).setMergeProps(mergeProps);
+    setCell(row, column, std::move(cell));
+}
+
+void Table::removeCell(RowIndex row, ColumnIndex column)
+{
+    const std::size_t chunkIndex = findChunk(row);
+    TableChunk& chunk = _chunks[chunkIndex];
+    const std::size_t relativeRow = chunk.getRelativeRow(row);
+    const TableChunk::Boundaries boundaries = chunk.getRelativeRowBoundaries(relativeRow);
+    const std::size_t place = getLBCell(chunk, boundaries, column);
+    if (place == boundaries.end || chunk.data[place].colID != getID(column)) {
+        return;
+    }
+    _mergedCellsCache.unmergeCells(row, column);
+    _pivotTablesCache.removePivot(row, column);
+    chunk.data.erase(at(chunk.data, place));
+    chunk.lowerOffsetsBehind(relativeRow, 1);
+}
+
+void Table::setMergeProps(RowIndex row, ColumnIndex column, std::uint64_t capturedRows, std::uint64_t capturedColumns)
+{
+    if (capturedRows != 0 || capturedColumns != 0) {
+        const TableRange range = getCapturedRange(row, column, capturedRows, capturedColumns);
+        getOrCreateCell(row, column).setMergeProps(CellMergeProps(capturedRows, capturedColumns));
+        _mergedCellsCache.mergeCells(range);
+        ensureSize(range.getEndRow(), range.getEndColumn());
+        return;
+    }
+    if (Cell* const cell = getCell(row, column)) {
+        cell->setMergeProps(CellMergeProps());
+    }
+    _mergedCellsCache.unmergeCells(row, column);
+}
+
+boost::optional<CellIndex> Table::getMergedCellRoot(RowIndex row, ColumnIndex column) const
+{
+    return _mergedCellsCache.getMergedCellRoot(row, column);
+}
+
+boost::optional<TableRange> Table::getMergedRange(RowIndex row, ColumnIndex column) const
+{
+    return _mergedCellsCache.getMergedRange(row, column);
+}
+
+void Table::setPivotTable(RowIndex row, ColumnIndex column, std::unique_ptr<PivotTable> pivotTable)
+{
+    checkLimits(row, column);
+    _pivotTablesCache.addPivot(row, column, derefRequired(pivotTable).getSize());
+    getOrCreateCell(row, column).setPivotTable(std::move(pivotTable));
+}
+
+void Table::removePivotTable(RowIndex row, ColumnIndex column)
+{
+    _pivotTablesCache.removePivot(row, column);
+    if (Cell* const cell = getCell(row, column)) {
+        cell->setPivotTable(nullptr);
+    }
+}
+
+boost::optional<CellIndex> Table::getPivotRoot(RowIndex row, ColumnIndex column) const
+{
+    return _pivotTablesCache.getPivotRoot(row, column);
+}
+
+bool Table::isPivotTablesInRange(const TableRange& range) const
+{
+    return _pivotTablesCache.isPivotTablesInRange(range);
+}
+
+std::vector<CellIndex> Table::getPivotTablesInRange(const TableRange& range) const
+{
+    return _pivotTablesCache.getPivotTablesInRange(range);
+}
+
+bool Table::canInsertRow(RowIndex row) const
+{
+    return _pivotTablesCache.canInsertRow(row);
+}
+
+bool Table::canInsertColumn(ColumnIndex column) const
+{
+    return _pivotTablesCache.canInsertColumn(column);
+}
+
+} // namespace QN::DOM
