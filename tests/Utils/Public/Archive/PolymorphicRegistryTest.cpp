@@ -1,0 +1,118 @@
+#include "Utils/Public/Archive/PolymorphicRegistry.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <typeindex>
+
+#include "Support/TestFamily.h"
+
+namespace {
+
+using namespace cereal::detail;
+using namespace QN::Test;
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+/// The type that a name stands for.
+const std::type_info* findType(const char* name)
+{
+    const auto& map = StaticObject<TypeNameMap>::getInstance().map;
+    const auto entry = map.find(name);
+    if (entry == map.end()) {
+        return nullptr;
+    }
+    const auto& bindings = StaticObject<InputBindingMap<cereal::JSONInputArchive>>::getInstance().map;
+    return bindings.at(entry->second).type;
+}
+
+void expectCastError(const std::type_info& base, const char* baseName, const std::type_info& derived,
+                     const char* derivedName)
+{
+    try {
+        PolymorphicCasters::lookup(base, derived);
+        ADD_FAILURE() << baseName << ", " << derivedName;
+    } catch (const cereal::Exception& error) {
+        EXPECT_THAT(error.what(),
+                    AllOf(StartsWith("Trying to load a registered polymorphic type with an unregistered "
+                                     "polymorphic cast."),
+                          HasSubstr(baseName), HasSubstr(derivedName)));
+    }
+}
+
+TEST(PolymorphicRegistryTest, NameIsTheOneGivenAtRegistrationAndNotThatOfTheClass)
+{
+    EXPECT_STREQ(StaticObject<TypeNameProvider<Word>>::getInstance().getName(), "Test::Word");
+    EXPECT_STREQ(StaticObject<TypeNameProvider<Ring>>::getInstance().getName(), "Test::Circle");
+}
+
+TEST(PolymorphicRegistryTest, ProgramsOwnTypesStandInTheTablesOfTheLibrary)
+{
+    // The first table is filled by the library's code and the other two by this program's: they must be the same ones.
+    ASSERT_NE(findType("Test::Circle"), nullptr);
+    EXPECT_EQ(*findType("Test::Circle"), typeid(Ring));
+    EXPECT_EQ(*findType("Test::Word"), typeid(Word));
+    EXPECT_EQ(*findType("Test::Flat"), typeid(Flat));
+    EXPECT_EQ(findType("Test::Ring"), nullptr);
+}
+
+TEST(PolymorphicRegistryTest, RegisteredTypesHaveBindingsForBothArchives)
+{
+    const auto& outputs = StaticObject<OutputBindingMap<cereal::JSONOutputArchive>>::getInstance().map;
+    const auto& inputs = StaticObject<InputBindingMap<cereal::JSONInputArchive>>::getInstance().map;
+    for (const std::type_info* type :
+         {&typeid(Word), &typeid(Group), &typeid(Dot), &typeid(Ring), &typeid(Striped), &typeid(Flat)}) {
+        EXPECT_EQ(outputs.count(*type), 1U) << type->name();
+        EXPECT_EQ(inputs.count(*type), 1U) << type->name();
+    }
+    for (const std::type_info* type : {&typeid(Item), &typeid(Mark), &typeid(Stranger), &typeid(Tone)}) {
+        EXPECT_EQ(outputs.count(*type), 0U) << type->name();
+        EXPECT_EQ(inputs.count(*type), 0U) << type->name();
+    }
+}
+
+TEST(PolymorphicRegistryTest, OutputBindingKnowsTheName)
+{
+    const auto& outputs = StaticObject<OutputBindingMap<cereal::JSONOutputArchive>>::getInstance().map;
+    EXPECT_STREQ(outputs.at(typeid(Ring)).name->getName(), "Test::Circle");
+}
+
+TEST(PolymorphicRegistryTest, ChainLeadsThroughTheClassesBetweenTwoTypes)
+{
+    EXPECT_EQ(PolymorphicCasters::lookup(typeid(Item), typeid(Item)).size(), 0U);
+    EXPECT_EQ(PolymorphicCasters::lookup(typeid(Dot), typeid(Dot)).size(), 0U);
+    EXPECT_EQ(PolymorphicCasters::lookup(typeid(Item), typeid(Word)).size(), 1U);
+    EXPECT_EQ(PolymorphicCasters::lookup(typeid(Mark), typeid(Dot)).size(), 1U);
+    EXPECT_EQ(PolymorphicCasters::lookup(typeid(Item), typeid(Dot)).size(), 2U);
+}
+
+TEST(PolymorphicRegistryTest, ChainCastsDownAndUp)
+{
+    Dot dot;
+    const auto chain = PolymorphicCasters::lookup(typeid(Item), typeid(Dot));
+    EXPECT_EQ(PolymorphicCasters::downcastImpl(chain, static_cast<const Item*>(&dot)), &dot);
+    EXPECT_EQ(PolymorphicCasters::upcastImpl(chain, &dot), static_cast<Item*>(&dot));
+}
+
+TEST(PolymorphicRegistryTest, CastToASecondBaseMovesThePointer)
+{
+    Group group;
+    QN::UUIDable* const base = &group;
+    ASSERT_NE(static_cast<void*>(base), static_cast<void*>(&group));
+    const auto chain = PolymorphicCasters::lookup(typeid(QN::UUIDable), typeid(Group));
+    EXPECT_EQ(PolymorphicCasters::upcastImpl(chain, &group), base);
+    EXPECT_EQ(PolymorphicCasters::downcastImpl(chain, base), &group);
+}
+
+TEST(PolymorphicRegistryTest, MissingRelationIsReportedWithBothNames)
+{
+    expectCastError(typeid(Tone), "QN::Test::Tone", typeid(Word), "QN::Test::Word");
+    expectCastError(typeid(Word), "QN::Test::Word", typeid(Item), "QN::Test::Item");
+    expectCastError(typeid(Item), "QN::Test::Item", typeid(Stranger), "QN::Test::Stranger");
+    expectCastError(typeid(QN::UUIDable), "QN::UUIDable", typeid(Word), "QN::Test::Word");
+    EXPECT_THROW(throwUnregisteredPolymorphicCastException(typeid(Item), typeid(Flat)), cereal::Exception);
+}
+
+} // namespace
