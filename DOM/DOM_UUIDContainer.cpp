@@ -14,6 +14,31 @@
 namespace QN::DOM {
 
 template <class T>
+UUIDContainer<T>::UUIDContainer() = default;
+
+template <class T>
+UUIDContainer<T>::UUIDContainer(const UUIDContainer& other) = default;
+
+template <class T>
+UUIDContainer<T>::UUIDContainer(UUIDContainer&& other) noexcept = default;
+
+template <class T>
+UUIDContainer<T>& UUIDContainer<T>::operator=(const UUIDContainer& other)
+{
+    if (this != &other) {
+        UUIDContainer copy(other);
+        *this = std::move(copy);
+    }
+    return *this;
+}
+
+template <class T>
+UUIDContainer<T>& UUIDContainer<T>::operator=(UUIDContainer&& other) noexcept = default;
+
+template <class T>
+UUIDContainer<T>::~UUIDContainer() = default;
+
+template <class T>
 T* UUIDContainer<T>::find(const UUID& uuid)
 {
     const auto entry = _collection.find(uuid);
@@ -34,6 +59,18 @@ T& UUIDContainer<T>::insert(T element)
     QN_CONTRACT(_collection.find(uuid) == _collection.end(), "DOM_UUIDContainer", 67,
                 "_collection.find(uuid) == _collection.end()");
     return _collection.emplace(uuid, std::move(element)).first->second;
+}
+
+template <class T>
+bool UUIDContainer<T>::erase(const UUID& uuid)
+{
+    return _collection.erase(uuid) != 0;
+}
+
+template <class T>
+void UUIDContainer<T>::clear()
+{
+    _collection.clear();
 }
 
 template <class T>

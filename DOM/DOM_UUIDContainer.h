@@ -4,10 +4,8 @@
 
 #include <cstddef>
 #include <iterator>
-#include <type_traits>
 #include <utility>
 
-#include "Utils/Public/Assert.h"
 #include "Utils/Public/ClassScheme/Declare.h"
 #include "Utils/Public/UUID.h"
 
@@ -36,6 +34,15 @@ public:
     using iterator = Iterator<T, typename Collection::iterator>;
     using const_iterator = Iterator<const T, typename Collection::const_iterator>;
 
+    // Out of line, as all that works on whole containers: who holds one need not know the elements.
+
+    UUIDContainer();
+    UUIDContainer(const UUIDContainer& other);
+    UUIDContainer(UUIDContainer&& other) noexcept;
+    UUIDContainer& operator=(const UUIDContainer& other);
+    UUIDContainer& operator=(UUIDContainer&& other) noexcept;
+    ~UUIDContainer();
+
     bool empty() const { return _collection.empty(); }
     std::size_t size() const { return _collection.size(); }
 
@@ -53,8 +60,8 @@ public:
     T& insert(T element);
     /// Removes the element under a key.
     /// @return whether there was one.
-    bool erase(const UUID& uuid) { return _collection.erase(uuid) != 0; }
-    void clear() { _collection.clear(); }
+    bool erase(const UUID& uuid);
+    void clear();
 
     /// Compares the keys and the elements.
     QN_EQUALITY(UUIDContainer)
