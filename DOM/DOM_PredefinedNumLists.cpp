@@ -127,8 +127,7 @@ void appendLevel(NumberedList& list, const SharedObjectFactory& factory, LevelDe
 
     auto level = std::make_unique<NumberingLevel>();
     level->setListMarker(std::move(marker));
-    level->getSharedStyle() =
-        factory.create(NumberingLevelStyle(std::move(paraProps), std::move(runProps)));
+    level->getSharedStyle() = factory.create(NumberingLevelStyle(std::move(paraProps), std::move(runProps)));
     list.getNumberingLevels().push_back(std::move(level));
 }
 

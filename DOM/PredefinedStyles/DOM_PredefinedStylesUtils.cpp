@@ -87,8 +87,8 @@ const NamedStyle* findNamedStyle(const UUIDContainer<NamedStyle>& styles, Predef
 template <class NamedStyle>
 const NamedStyle* findNamedStyle(const UUIDContainer<NamedStyle>& styles, const std::string& name)
 {
-    return findFirst(
-        styles, [&](const NamedStyle& candidate) { return resolveNamedStyleName(candidate) == name; });
+    return findFirst(styles,
+                     [&](const NamedStyle& candidate) { return resolveNamedStyleName(candidate) == name; });
 }
 
 template const NamedTextStyle* findNamedStyle(const UUIDContainer<NamedTextStyle>& styles,
