@@ -1,5 +1,7 @@
 #include "DOM/DOM_ColorMap.h"
 
+#include <map>
+
 #include "Utils/Public/ClassScheme/Define.h"
 
 namespace QN::DOM {
@@ -18,6 +20,16 @@ void ColorMap::setMapping(ThemeColorId id, ThemeColorId target)
     _map.insert_or_assign(id, target);
 }
 
-QN_DEFINE_VALUE(ColorMap)
+QN_DEFINE_EQUALITY(ColorMap)
+
+void ColorMap::serialize(cereal::JSONOutputArchive& archive) const
+{
+    archive.member("_map", std::map<ThemeColorId, ThemeColorId>(_map.begin(), _map.end()));
+}
+
+void ColorMap::serialize(cereal::JSONInputArchive& archive)
+{
+    loadMembers(archive, *this);
+}
 
 } // namespace QN::DOM

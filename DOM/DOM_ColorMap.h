@@ -16,6 +16,7 @@ public:
     /// Adds the mapping or overwrites it.
     void setMapping(ThemeColorId id, ThemeColorId target);
 
+    /// Mappings are saved in the order of their numbers, so that equal ones give equal texts.
     QN_VALUE(ColorMap)
 
 private:

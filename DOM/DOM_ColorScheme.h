@@ -21,6 +21,7 @@ public:
     /// Adds the slot or overwrites it.
     void setColor(ThemeColorId id, Color color);
 
+    /// Slots are saved in the order of their numbers, so that equal ones give equal texts.
     QN_VALUE(ColorScheme)
 
 private:

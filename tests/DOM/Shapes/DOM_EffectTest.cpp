@@ -1,0 +1,32 @@
+#include "DOM/Shapes/DOM_Effect.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "DOM/ValueChecks.h"
+#include "Support/RoundTrip.h"
+
+namespace QN::DOM {
+
+using namespace Test;
+
+TEST(EffectTest, PersistsAsAnEmptyObject)
+{
+    EXPECT_EQ(toJson(Effect()), "{}");
+    EXPECT_EQ(toJson(std::make_unique<Effect>()), R"({"object":{"ptr_wrapper":{"valid":1,"data":{}}}})");
+    expectPersists(Effect());
+}
+
+TEST(EffectTest, AllAreEqual)
+{
+    EXPECT_EQ(Effect(), Effect());
+    expectAscending<Effect>({Effect()});
+}
+
+TEST(EffectTest, IsCopiedAndMoved)
+{
+    expectCopiesAndMoves(Effect());
+}
+
+} // namespace QN::DOM
