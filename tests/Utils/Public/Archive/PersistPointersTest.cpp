@@ -27,7 +27,6 @@ BOOST_DESCRIBE_STRUCT(Size, (), (_size))
 
 struct Name {
     std::string _name;
-    friend bool operator==(const Name&, const Name&) = default;
 };
 BOOST_DESCRIBE_STRUCT(Name, (), (_name))
 
@@ -68,7 +67,6 @@ struct Mixed {
     OtherHandle other;
     std::shared_ptr<const Size> sameSize;
     Handle sameStyle;
-    friend bool operator==(const Mixed&, const Mixed&) = default;
 };
 BOOST_DESCRIBE_STRUCT(Mixed, (), (size, name, style, other, sameSize, sameStyle))
 

@@ -206,6 +206,7 @@ TEST(OrderingTest, OperatorsFollowFromTheOneComparison)
     EXPECT_TRUE(low < high && low <= high && high > low && high >= low);
     EXPECT_FALSE(high < low || high <= low || low > high || low >= high);
     EXPECT_TRUE(low <= low && low >= low);
+    EXPECT_TRUE(Weighted{0} < Weighted{1} && Style(1) < Style(2));
     EXPECT_FALSE(low < low || low > low);
 }
 
