@@ -148,9 +148,9 @@ void deepCopy(benchmark::State& state)
             copy.reset();
             std::vector<std::unique_ptr<std::string>> runs;
             runs.reserve(Paragraphs * RunsInParagraph);
-            for (const auto& block : getDocument().getBlocks()) {
-                for (const auto& run : static_cast<const Paragraph&>(*block).getRuns()) {
-                    runs.push_back(std::make_unique<std::string>(run->getText()));
+            for (const Block& block : getDocument().getBlocks()) {
+                for (const Run& run : static_cast<const Paragraph&>(block).getRuns()) {
+                    runs.push_back(std::make_unique<std::string>(run.getText()));
                 }
             }
             benchmark::DoNotOptimize(runs.data());
@@ -165,13 +165,13 @@ void equality(benchmark::State& state)
         state, [] { benchmark::DoNotOptimize(getDocument() == copy); },
         [] {
             bool equal = true;
-            const auto& left = getDocument().getBlocks();
-            const auto& right = copy.getBlocks();
+            const auto left = getDocument().getBlocks();
+            const auto right = copy.getBlocks();
             for (std::size_t index = 0; index < left.size(); ++index) {
-                const auto& leftRuns = static_cast<const Paragraph&>(*left[index]).getRuns();
-                const auto& rightRuns = static_cast<const Paragraph&>(*right[index]).getRuns();
+                const auto leftRuns = static_cast<const Paragraph&>(left[index]).getRuns();
+                const auto rightRuns = static_cast<const Paragraph&>(right[index]).getRuns();
                 for (std::size_t run = 0; run < leftRuns.size(); ++run) {
-                    equal = equal && leftRuns[run]->getText() == rightRuns[run]->getText();
+                    equal = equal && leftRuns[run].getText() == rightRuns[run].getText();
                 }
             }
             benchmark::DoNotOptimize(equal);
