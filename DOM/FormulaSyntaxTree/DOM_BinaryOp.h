@@ -11,7 +11,7 @@ namespace QN::DOM::FormulaSyntaxTree {
 /// One of the operators `Plus`, `Minus`, `Mul`, `Div`, `Pow`, `Equal`, `NotEqual`, `Less`, `LessOrEqual`, `Greater`,
 /// `GreaterOrEqual`, `Concat`, `Intersection` and `Union`.
 template <BinaryOpType Type>
-class DOM_API BinaryOp final : public Reflectable<BaseBinaryOp> {
+class BinaryOp final : public Reflectable<BaseBinaryOp> {
 public:
     /// Null operands: a value to load into.
     BinaryOp() = default;
@@ -28,19 +28,19 @@ public:
     BOOST_DESCRIBE_CLASS(BinaryOp, (BaseBinaryOp), (), (), ())
 };
 
-extern template class BinaryOp<BinaryOpType::Plus>;
-extern template class BinaryOp<BinaryOpType::Minus>;
-extern template class BinaryOp<BinaryOpType::Mul>;
-extern template class BinaryOp<BinaryOpType::Div>;
-extern template class BinaryOp<BinaryOpType::Pow>;
-extern template class BinaryOp<BinaryOpType::Equal>;
-extern template class BinaryOp<BinaryOpType::NotEqual>;
-extern template class BinaryOp<BinaryOpType::Less>;
-extern template class BinaryOp<BinaryOpType::LessOrEqual>;
-extern template class BinaryOp<BinaryOpType::Greater>;
-extern template class BinaryOp<BinaryOpType::GreaterOrEqual>;
-extern template class BinaryOp<BinaryOpType::Concat>;
-extern template class BinaryOp<BinaryOpType::Intersection>;
-extern template class BinaryOp<BinaryOpType::Union>;
+extern template class DOM_API BinaryOp<BinaryOpType::Plus>;
+extern template class DOM_API BinaryOp<BinaryOpType::Minus>;
+extern template class DOM_API BinaryOp<BinaryOpType::Mul>;
+extern template class DOM_API BinaryOp<BinaryOpType::Div>;
+extern template class DOM_API BinaryOp<BinaryOpType::Pow>;
+extern template class DOM_API BinaryOp<BinaryOpType::Equal>;
+extern template class DOM_API BinaryOp<BinaryOpType::NotEqual>;
+extern template class DOM_API BinaryOp<BinaryOpType::Less>;
+extern template class DOM_API BinaryOp<BinaryOpType::LessOrEqual>;
+extern template class DOM_API BinaryOp<BinaryOpType::Greater>;
+extern template class DOM_API BinaryOp<BinaryOpType::GreaterOrEqual>;
+extern template class DOM_API BinaryOp<BinaryOpType::Concat>;
+extern template class DOM_API BinaryOp<BinaryOpType::Intersection>;
+extern template class DOM_API BinaryOp<BinaryOpType::Union>;
 
 } // namespace QN::DOM::FormulaSyntaxTree

@@ -10,7 +10,7 @@ namespace QN::DOM::FormulaSyntaxTree {
 
 /// One of the operators `UnaryPlus`, `UnaryMinus` and `UnaryPercent`.
 template <UnaryOpType Type>
-class DOM_API UnaryOp final : public Reflectable<BaseUnaryOp> {
+class UnaryOp final : public Reflectable<BaseUnaryOp> {
 public:
     /// A null operand: a value to load into.
     UnaryOp() = default;
@@ -27,8 +27,8 @@ public:
     BOOST_DESCRIBE_CLASS(UnaryOp, (BaseUnaryOp), (), (), ())
 };
 
-extern template class UnaryOp<UnaryOpType::Plus>;
-extern template class UnaryOp<UnaryOpType::Minus>;
-extern template class UnaryOp<UnaryOpType::Percent>;
+extern template class DOM_API UnaryOp<UnaryOpType::Plus>;
+extern template class DOM_API UnaryOp<UnaryOpType::Minus>;
+extern template class DOM_API UnaryOp<UnaryOpType::Percent>;
 
 } // namespace QN::DOM::FormulaSyntaxTree

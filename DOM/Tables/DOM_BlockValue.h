@@ -9,7 +9,7 @@ namespace QN::DOM {
 /// A plain value as the content of a block: a number, an error or a boolean. A number is finite: setting another one
 /// fails the contract "isfinite(value)", and a file that holds another one raises `cereal::Exception`.
 template <class T>
-class DOM_API BlockValue {
+class BlockValue {
 public:
     BlockValue() = default;
     explicit BlockValue(T value) : _value(value) { check(value); }
@@ -32,8 +32,8 @@ private:
     BOOST_DESCRIBE_CLASS(BlockValue, (), (), (), (_value))
 };
 
-extern template class BlockValue<FloatNumber>;
-extern template class BlockValue<FormulaErrorType>;
-extern template class BlockValue<bool>;
+extern template class DOM_API BlockValue<FloatNumber>;
+extern template class DOM_API BlockValue<FormulaErrorType>;
+extern template class DOM_API BlockValue<bool>;
 
 } // namespace QN::DOM
