@@ -7,13 +7,14 @@
 #include "DOM/Properties/DOM_SharedStyle.h"
 #include "DOM/Tables/Properties/DOM_MemberTrait.h"
 #include "Utils/Public/ClassScheme/Declare.h"
+#include "Utils/Public/Export.h"
 #include "Utils/Public/UUID.h"
 
 namespace QN::DOM {
 
 /// The anonymous style of a row or of a column of a table, `P` being the partial set of its properties.
 template <class P>
-class DOM_API RowColumnStyle {
+class RowColumnStyle {
 public:
     /// The style of the cells that have none of their own; the empty style when there is none.
     const CellStyle& getDefaultCellStyle() const { return derefSharedStyle(_defaultCellStyle); }
@@ -43,5 +44,8 @@ private:
 
 using RowStyle = RowColumnStyle<RowPropsImpl<MemberTrait::OptionalMembers>>;
 using ColumnStyle = RowColumnStyle<ColumnPropsImpl<MemberTrait::OptionalMembers>>;
+
+extern template class DOM_API RowColumnStyle<RowPropsImpl<MemberTrait::OptionalMembers>>;
+extern template class DOM_API RowColumnStyle<ColumnPropsImpl<MemberTrait::OptionalMembers>>;
 
 } // namespace QN::DOM
