@@ -1,6 +1,7 @@
 #include "DOM/DOM_UUIDContainer.h"
 
 #include <memory>
+#include <utility>
 
 #include "DOM/DOM_Comment.h"
 #include "DOM/DOM_HeaderFooterPair.h"
@@ -13,14 +14,22 @@
 
 namespace QN::DOM {
 
-template <class T>
-UUIDContainer<T>::UUIDContainer() = default;
+// Written out, since g++ leaves members that are defaulted behind the class out of an explicit instantiation.
 
 template <class T>
-UUIDContainer<T>::UUIDContainer(const UUIDContainer& other) = default;
+UUIDContainer<T>::UUIDContainer() // NOLINT(modernize-use-equals-default)
+{
+}
 
 template <class T>
-UUIDContainer<T>::UUIDContainer(UUIDContainer&& other) noexcept = default;
+UUIDContainer<T>::UUIDContainer(const UUIDContainer& other) : _collection(other._collection)
+{
+}
+
+template <class T>
+UUIDContainer<T>::UUIDContainer(UUIDContainer&& other) noexcept : _collection(std::move(other._collection))
+{
+}
 
 template <class T>
 UUIDContainer<T>& UUIDContainer<T>::operator=(const UUIDContainer& other)
@@ -33,10 +42,16 @@ UUIDContainer<T>& UUIDContainer<T>::operator=(const UUIDContainer& other)
 }
 
 template <class T>
-UUIDContainer<T>& UUIDContainer<T>::operator=(UUIDContainer&& other) noexcept = default;
+UUIDContainer<T>& UUIDContainer<T>::operator=(UUIDContainer&& other) noexcept
+{
+    _collection = std::move(other._collection);
+    return *this;
+}
 
 template <class T>
-UUIDContainer<T>::~UUIDContainer() = default;
+UUIDContainer<T>::~UUIDContainer() // NOLINT(modernize-use-equals-default)
+{
+}
 
 template <class T>
 T* UUIDContainer<T>::find(const UUID& uuid)
