@@ -2,17 +2,25 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "DOM/DOM_TrackedObject.h"
 #include "DOM/Properties/DOM_FontProps.h"
 #include "DOM/Properties/DOM_ParaProps.h"
 #include "DOM/Properties/DOM_RegularLineProps.h"
 #include "DOM/Properties/DOM_RunProps.h"
+#include "DOM/Properties/DOM_SharedObjectFactory.h"
 #include "DOM/Properties/PaintSamples.h"
+#include "DOM/Tables/Properties/CellFormatModel/DOM_CellFormat.h"
 #include "DOM/Tables/Properties/DOM_BordersProps.h"
+#include "DOM/Tables/Properties/DOM_CellProps.h"
+#include "DOM/Tables/Properties/DOM_ColumnProps.h"
+#include "DOM/Tables/Properties/DOM_RowProps.h"
+#include "DOM/Tables/Properties/DOM_TableProps.h"
 
 /// Property sets for the tests of what holds them.
 
@@ -111,6 +119,54 @@ inline DOM::ParaProps makeFullParaProps()
         props.setTabStops(std::move(stops));
         props.setOutlineLevel(8UL);
     });
+}
+
+inline std::shared_ptr<const DOM::CellProps> makeCellProps(float width)
+{
+    return sharedWith<DOM::CellProps>([&](DOM::CellProps& props) { props.setWidth(width); });
+}
+
+inline std::shared_ptr<const DOM::TableProps> makeTableProps(float indent)
+{
+    return sharedWith<DOM::TableProps>([&](DOM::TableProps& props) { props.setLeadingIndent(indent); });
+}
+
+inline std::shared_ptr<const DOM::RowProps> makeRowProps(bool isHidden)
+{
+    return sharedWith<DOM::RowProps>([&](DOM::RowProps& props) { props.setHidden(isHidden); });
+}
+
+inline std::shared_ptr<const DOM::ColumnProps> makeColumnProps(float width)
+{
+    return sharedWith<DOM::ColumnProps>([&](DOM::ColumnProps& props) { props.setWidth(width); });
+}
+
+/// A format of so many empty rules.
+inline std::shared_ptr<const DOM::CellFormat> makeCellFormat(std::size_t ruleCount)
+{
+    DOM::CellFormatModel::Expression expression;
+    expression.setRules(std::vector<DOM::CellFormatModel::Rule>(ruleCount));
+    return std::make_shared<const DOM::CellFormat>(std::move(expression));
+}
+
+/// A handle of its own, whatever other handles there are to an equal style.
+template <class T>
+DOM::SharedStylePtr<T> share(T style)
+{
+    return DOM::SharedObjectFactory().create(std::move(style));
+}
+
+/// A handle that holds an empty style, as a file can state one.
+template <class T>
+DOM::SharedStylePtr<T> shareEmpty()
+{
+    return DOM::SharedStylePtr<T>(new DOM::SharedStyle<T>());
+}
+
+template <class T>
+T withParent(const UUID& uuid)
+{
+    return with<T>([&](T& style) { style.setParentUUID(uuid); });
 }
 
 /// An author without a date.
