@@ -79,8 +79,16 @@ public:
     BOOST_DESCRIBE_CLASS(Group, (Item, UUIDable), (_items), (), ())
 };
 
+/// Stands before the root in an object, so that a pointer to the root has another address than the object.
+class Ballast {
+public:
+    virtual ~Ballast() = default;
+
+    long ballast = 0;
+};
+
 /// Stands between the root and the concrete classes.
-class Mark : public Reflectable<Item> {
+class Mark : public Reflectable<Ballast, Item> {
 public:
     QN_VALUE(Mark)
 

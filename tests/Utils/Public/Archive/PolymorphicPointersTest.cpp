@@ -210,6 +210,22 @@ TEST(PolymorphicPointersTest, SharedObjectIsTheSameThroughItsRootAndItsOwnClass)
     EXPECT_EQ(loaded.first.get(), loaded.second.get());
 }
 
+TEST(PolymorphicPointersTest, SharedObjectIsTheSameThroughABaseAtAnotherAddress)
+{
+    using Pointers = std::pair<std::shared_ptr<Item>, std::shared_ptr<Dot>>;
+    const auto dot = std::make_shared<Dot>(makeDot(1, 2));
+    ASSERT_NE(static_cast<const void*>(dot.get()),
+              static_cast<const void*>(static_cast<const Item*>(dot.get())));
+    const std::string text = toText(Pointers(dot, dot));
+    EXPECT_EQ(text,
+              R"({"first":{"polymorphic_id":2147483649,"polymorphic_name":"Test::Dot",)"
+              R"("ptr_wrapper":{"id":2147483649,"data":{"value0":{"value0":{},"_weight":1},"_radius":2}}},)"
+              R"("second":{"polymorphic_id":1,"ptr_wrapper":{"id":1}}})");
+    const auto loaded = fromText<Pointers>(text);
+    EXPECT_EQ(loaded.first, loaded.second);
+    EXPECT_EQ(*loaded.second, makeDot(1, 2));
+}
+
 TEST(PolymorphicPointersTest, SharedObjectIsKeptAliveForTheTimeOfTheArchive)
 {
     std::ostringstream stream;

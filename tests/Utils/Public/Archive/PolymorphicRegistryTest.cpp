@@ -91,6 +91,7 @@ TEST(PolymorphicRegistryTest, ChainLeadsThroughTheClassesBetweenTwoTypes)
 TEST(PolymorphicRegistryTest, ChainCastsDownAndUp)
 {
     Dot dot;
+    ASSERT_NE(static_cast<void*>(static_cast<Item*>(&dot)), static_cast<void*>(&dot));
     const auto chain = PolymorphicCasters::lookup(typeid(Item), typeid(Dot));
     EXPECT_EQ(PolymorphicCasters::downcastImpl(chain, static_cast<const Item*>(&dot)), &dot);
     EXPECT_EQ(PolymorphicCasters::upcastImpl(chain, &dot), static_cast<Item*>(&dot));
