@@ -47,13 +47,13 @@ template class TrackedObject<std::shared_ptr<const ParaProps>>;
         rebaseMember(target.getValue(), replacement.getValue(), left.getValue(), right.getValue());          \
     }
 
-#define QN_DEFINE_POINTER_REBASE(Class)                                                                      \
-    void rebaseProperty(std::shared_ptr<const Class>& target,                                                \
-                        const std::shared_ptr<const Class>& replacement,                                     \
+/// `Pointee` is the class, const or not.
+#define QN_DEFINE_POINTER_REBASE(Pointee, Class)                                                             \
+    void rebaseProperty(std::shared_ptr<Pointee>& target, const std::shared_ptr<const Class>& replacement,   \
                         const std::shared_ptr<const Class>& left, const std::shared_ptr<const Class>& right) \
     {                                                                                                        \
         if (arePointersDeeplyEqual(left, right)) {                                                           \
-            target = replacement ? std::make_shared<const Class>(*replacement) : nullptr;                    \
+            target = replacement ? std::make_shared<Pointee>(*replacement) : nullptr;                        \
         }                                                                                                    \
     }
 
@@ -65,8 +65,10 @@ QN_DEFINE_VALUE_ALGEBRA(TrackedObject<std::shared_ptr<const ParaProps>>)
 QN_DEFINE_VALUE_REBASE(TrackedObject<std::shared_ptr<const RunProps>>)
 QN_DEFINE_VALUE_REBASE(TrackedObject<std::shared_ptr<const ParaProps>>)
 
-QN_DEFINE_POINTER_REBASE(TrackedObject<TrackChangesType>)
-QN_DEFINE_POINTER_REBASE(TrackedObject<UUID>)
+QN_DEFINE_POINTER_REBASE(const TrackedObject<TrackChangesType>, TrackedObject<TrackChangesType>)
+QN_DEFINE_POINTER_REBASE(TrackedObject<TrackChangesType>, TrackedObject<TrackChangesType>)
+QN_DEFINE_POINTER_REBASE(const TrackedObject<UUID>, TrackedObject<UUID>)
+QN_DEFINE_POINTER_REBASE(TrackedObject<UUID>, TrackedObject<UUID>)
 
 std::shared_ptr<TrackedObject<UUID>> makeTrackedParent(const TrackChangesInfo& info, const UUID& parentUUID)
 {

@@ -42,10 +42,10 @@ private:
     BOOST_DESCRIBE_CLASS(TrackedObject, (), (), (), (_info, _value))
 };
 
-extern template class TrackedObject<TrackChangesType>;
-extern template class TrackedObject<UUID>;
-extern template class TrackedObject<std::shared_ptr<const RunProps>>;
-extern template class TrackedObject<std::shared_ptr<const ParaProps>>;
+extern template class DOM_API TrackedObject<TrackChangesType>;
+extern template class DOM_API TrackedObject<UUID>;
+extern template class DOM_API TrackedObject<std::shared_ptr<const RunProps>>;
+extern template class DOM_API TrackedObject<std::shared_ptr<const ParaProps>>;
 
 QN_DECLARE_OVERRIDE(TrackedObject<TrackChangesType>)
 QN_DECLARE_EXCLUDE(TrackedObject<TrackChangesType>)
@@ -61,6 +61,16 @@ QN_DECLARE_ALGEBRA(TrackedObject<std::shared_ptr<const ParaProps>>)
 /// A plain value and its record are replaced whole, by a new copy of `replacement`, where `left` and `right` are equal.
 QN_DECLARE_REBASE(std::shared_ptr<const TrackedObject<TrackChangesType>>)
 QN_DECLARE_REBASE(std::shared_ptr<const TrackedObject<UUID>>)
+
+/// The same for a pointer that lets its holder change the object; the others may be of either kind.
+DOM_API void rebaseProperty(std::shared_ptr<TrackedObject<TrackChangesType>>& target,
+                            const std::shared_ptr<const TrackedObject<TrackChangesType>>& replacement,
+                            const std::shared_ptr<const TrackedObject<TrackChangesType>>& left,
+                            const std::shared_ptr<const TrackedObject<TrackChangesType>>& right);
+DOM_API void rebaseProperty(std::shared_ptr<TrackedObject<UUID>>& target,
+                            const std::shared_ptr<const TrackedObject<UUID>>& replacement,
+                            const std::shared_ptr<const TrackedObject<UUID>>& left,
+                            const std::shared_ptr<const TrackedObject<UUID>>& right);
 
 /// The record of a former parent style.
 DOM_API std::shared_ptr<TrackedObject<UUID>> makeTrackedParent(const TrackChangesInfo& info,

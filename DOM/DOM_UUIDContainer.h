@@ -111,11 +111,11 @@ private:
     Base _base;
 };
 
-extern template class UUIDContainer<HeaderFooterPair>;
-extern template class UUIDContainer<Comment>;
-extern template class UUIDContainer<Note>;
-extern template class UUIDContainer<NamedTextStyle>;
-extern template class UUIDContainer<NamedTableStyle>;
-extern template class UUIDContainer<NamedShapeStyle>;
+extern template class DOM_API UUIDContainer<HeaderFooterPair>;
+extern template class DOM_API UUIDContainer<Comment>;
+extern template class DOM_API UUIDContainer<Note>;
+extern template class DOM_API UUIDContainer<NamedTextStyle>;
+extern template class DOM_API UUIDContainer<NamedTableStyle>;
+extern template class DOM_API UUIDContainer<NamedShapeStyle>;
 
 } // namespace QN::DOM
