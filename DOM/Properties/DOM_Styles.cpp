@@ -1,6 +1,7 @@
 #include "DOM/Properties/DOM_Styles.h"
 
 #include "DOM/PredefinedStyles/DOM_PredefinedStylesUtils.h"
+#include "DOM/Properties/DOM_NamedTextStyle.h"
 #include "DOM/Properties/DOM_ParaProps.h"
 #include "DOM/Properties/DOM_RunProps.h"
 #include "Utils/Public/ClassScheme/Define.h"

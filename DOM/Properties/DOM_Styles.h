@@ -5,9 +5,6 @@
 
 #include "DOM/DOM_UUIDContainer.h"
 #include "DOM/Properties/DOM_CellStyle.h"
-#include "DOM/Properties/DOM_NamedShapeStyle.h"
-#include "DOM/Properties/DOM_NamedTableStyle.h"
-#include "DOM/Properties/DOM_NamedTextStyle.h"
 #include "DOM/Properties/DOM_ParagraphStyle.h"
 #include "DOM/Properties/DOM_TableStyle.h"
 #include "Utils/Public/ClassScheme/Declare.h"
