@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <memory>
+#include <stdexcept>
 
 #include "DOM/Properties/AlgebraSample.h"
 
@@ -304,6 +306,92 @@ TEST(DOM_PropertiesResolveUtils, RebasingALineThatIsReplacedWholeAlwaysLeavesAnO
                    {line(1.0F), nullptr, nullptr, line(), line()},
                    {nullptr, line(2.0F), line(3.0F), line(4.0F), line()},
                    {nullptr, nullptr, nullptr, nullptr, line()}});
+}
+
+// Failures
+
+/// Copying and comparing take a step each; the step after the last that is left throws.
+class Fragile {
+public:
+    Fragile() = default;
+    Fragile(const Fragile& other) : _value(other._value) { takeStep(); }
+    Fragile& operator=(const Fragile& other)
+    {
+        takeStep();
+        _value = other._value;
+        return *this;
+    }
+    ~Fragile() = default;
+
+    bool operator==(const Fragile& other) const
+    {
+        takeStep();
+        return _value == other._value;
+    }
+
+    static void setStepsLeft(int steps) { _stepsLeft = steps; }
+
+private:
+    static void takeStep()
+    {
+        if (_stepsLeft-- == 0) {
+            throw std::runtime_error("no steps left");
+        }
+    }
+
+    static inline int _stepsLeft = -1;
+    int _value = 0;
+};
+
+struct FragilePart {
+    boost::optional<float> before;
+    Fragile fragile;
+    boost::optional<float> after;
+};
+BOOST_DESCRIBE_STRUCT(FragilePart, (), (before, fragile, after))
+bool operator==(const FragilePart& left, const FragilePart& right)
+{
+    return areAllMembersEqual(left, right);
+}
+QN_DEFINE_ALGEBRA(FragilePart)
+
+using FragilePointer = std::shared_ptr<const FragilePart>;
+
+/// Lets the operation fail at its first step, then at its second, and so on until it succeeds.
+template <class Operation>
+void expectOldValueAfterEachFailure(Operation operation)
+{
+    const auto old = std::make_shared<const FragilePart>(FragilePart{1.0F, {}, 1.0F});
+    const auto other = std::make_shared<const FragilePart>(FragilePart{2.0F, {}, 1.0F});
+    int failures = 0;
+    for (bool hasFailed = true; hasFailed;) {
+        FragilePointer target = old;
+        Fragile::setStepsLeft(failures);
+        try {
+            operation(target, other);
+            hasFailed = false;
+        } catch (const std::runtime_error&) {
+            ++failures;
+            EXPECT_EQ(target, old);
+        }
+        Fragile::setStepsLeft(-1);
+        EXPECT_EQ(*old, (FragilePart{1.0F, {}, 1.0F}));
+        EXPECT_TRUE(hasFailed || target != old);
+    }
+    EXPECT_GT(failures, 0);
+}
+
+TEST(DOM_PropertiesResolveUtils, APointerKeepsItsOldValueWhenAnOperationOnItsCopyFails)
+{
+    expectOldValueAfterEachFailure(
+        [](FragilePointer& target, const FragilePointer& other) { DOM::override(target, other); });
+    expectOldValueAfterEachFailure(
+        [](FragilePointer& target, const FragilePointer& other) { DOM::exclude(target, other); });
+    expectOldValueAfterEachFailure(
+        [](FragilePointer& target, const FragilePointer& other) { DOM::intersect(target, other); });
+    expectOldValueAfterEachFailure([](FragilePointer& target, const FragilePointer& other) {
+        DOM::rebaseProperty(target, other, FragilePointer(), other);
+    });
 }
 
 } // namespace
