@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <memory>
 #include <stdexcept>
 
 #include "DOM/Properties/AlgebraSample.h"
@@ -279,11 +278,13 @@ TEST(DOM_PropertiesResolveUtils, RebasingTreatsTabStopsAsOneOptional)
 
 TEST(DOM_PropertiesResolveUtils, RebasingAPropertySetAlwaysLeavesAnObject)
 {
+    const auto nan = part(NaN); // equal to itself as a pointer alone
     expectRebased(&Sample::composite,
                   {{part(1.0F), part(2.0F, true), part(3.0F), part(3.0F), part(2.0F, true)},
                    {part(1.0F), nullptr, part(3.0F), part(3.0F), part()},
                    {nullptr, nullptr, nullptr, nullptr, part()},
-                   {nullptr, nullptr, part(3.0F), part(4.0F), part()},
+                   {part(1.0F), part(2.0F), nan, nan, part(2.0F)},
+                   {part(1.0F), part(2.0F), nan, part(NaN), part(1.0F)},
                    {nullptr, part(2.0F), part(3.0F), part(4.0F), part()}});
 }
 
