@@ -76,8 +76,11 @@ TableChunk TableChunk::split(std::size_t median)
     tail.data.reserve(data.size() - remaining);
     std::move(firstCell, data.end(), std::back_inserter(tail.data));
 
+    // Most chunks never grow again: they keep no room for it.
     data.erase(firstCell, data.end());
+    data.shrink_to_fit();
     rowDataOffsets.erase(firstOffset, rowDataOffsets.end());
+    rowDataOffsets.shrink_to_fit();
     return tail;
 }
 

@@ -1,0 +1,76 @@
+#include "DOM/Tables/Filters/DOM_CompositeTableFilter.h"
+
+#include <gtest/gtest.h>
+
+#include "DOM/FamilyChecks.h"
+#include "DOM/Tables/Filters/DOM_NullaryConditionTableFilter.h"
+#include "DOM/Tables/Filters/DOM_UnaryConditionTableFilter.h"
+
+namespace QN::DOM {
+namespace {
+
+using namespace QN::Test;
+
+/// A filter on one column, and another composite filter with a null one in it.
+CompositeTableFilter makeFilter()
+{
+    auto inner = std::make_unique<CompositeTableFilter>(CompositeTableFilterType::And);
+    inner->getFilters().push_back(std::make_unique<NullaryConditionTableFilter>(ColumnIndex(2)));
+    inner->getFilters().push_back(nullptr);
+    CompositeTableFilter filter(CompositeTableFilterType::Or);
+    filter.getFilters().push_back(std::make_unique<NullaryConditionTableFilter>(ColumnIndex(1)));
+    filter.getFilters().push_back(std::move(inner));
+    return filter;
+}
+
+TEST(DOM_CompositeTableFilter, HasTheTypeOfNumberZeroAndNoFiltersByDefault)
+{
+    EXPECT_EQ(static_cast<int>(CompositeTableFilter().getType()), 0);
+    expectText(CompositeTableFilter(), R"({"value0":{},"_type":0,"_filters":[]})");
+}
+
+TEST(DOM_CompositeTableFilter, KeepsTheNestingOfItsFilters)
+{
+    const std::string leaf = R"({"value0":{"value0":{},"_columnIndex":{"_value":)";
+    expectInFamily<TableFilter>(
+        makeFilter(), "QN::DOM::CompositeTableFilter",
+        R"({"value0":{},"_type":1,"_filters":[)" +
+            makePolymorphicJson("QN::DOM::NullaryConditionTableFilter", leaf + R"(1}},"_operator":0})", 2) + "," +
+            makeLaterPolymorphicJson(R"({"value0":{},"_type":0,"_filters":[)" +
+                                         makeLaterPolymorphicJson(leaf + R"(2}},"_operator":0})", 2) +
+                                         R"(,{"polymorphic_id":0}]})",
+                                     1) +
+            "]}");
+}
+
+TEST(DOM_CompositeTableFilter, SharesNoFilterWithItsCopy)
+{
+    const CompositeTableFilter source = makeFilter();
+    CompositeTableFilter copy(source);
+    EXPECT_NE(copy.getFilters()[0].get(), source.getFilters()[0].get());
+    static_cast<NullaryConditionTableFilter&>(*copy.getFilters()[0]).setColumnIndex(ColumnIndex(9));
+    EXPECT_EQ(source, makeFilter());
+    EXPECT_NE(copy, source);
+}
+
+TEST(DOM_CompositeTableFilter, DiffersByItsTypeAndByTheOrderOfItsFilters)
+{
+    CompositeTableFilter filter = makeFilter();
+    filter.setType(CompositeTableFilterType::And);
+    EXPECT_NE(filter, makeFilter());
+    filter = makeFilter();
+    std::swap(filter.getFilters()[0], filter.getFilters()[1]);
+    EXPECT_NE(filter, makeFilter());
+}
+
+TEST(DOM_CompositeTableFilter, RefusesAClassOfAnotherFamily)
+{
+    const std::string json = R"({"value0":{},"_type":0,"_filters":[)" +
+                             makePolymorphicJson("QN::DOM::NoFill", R"({"value0":{}})") + "]}";
+    const std::string error = loadError<CompositeTableFilter>(json);
+    EXPECT_EQ(error.substr(0, 79),
+              "Trying to load a registered polymorphic type with an unregistered polymorphic c");
+}
+
+} // namespace
+} // namespace QN::DOM

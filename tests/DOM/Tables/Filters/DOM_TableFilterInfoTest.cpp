@@ -1,0 +1,85 @@
+#include "DOM/Tables/Filters/DOM_TableFilterInfo.h"
+
+#include <gtest/gtest.h>
+
+#include "DOM/FamilyChecks.h"
+#include "DOM/Tables/Filters/DOM_ValuesTableFilter.h"
+#include "DOM/Tables/TablePrinters.h"
+
+namespace QN::DOM {
+namespace {
+
+using namespace QN::Test;
+
+TableRange makeRange(std::uint64_t beginRow, std::uint64_t endRow)
+{
+    return {RowIndex(beginRow), RowIndex(endRow), ColumnIndex(2), ColumnIndex(5)};
+}
+
+TableFilterInfo makeInfo()
+{
+    TableFilterInfo info(makeRange(1, 9));
+    info.setFilter(std::make_unique<ValuesTableFilter>(ColumnIndex(3)));
+    return info;
+}
+
+TEST(DOM_TableFilterInfo, ReachesToTheLargestIndexByDefault)
+{
+    EXPECT_EQ(TableFilterInfo().getFilter(), nullptr);
+    expectText(TableFilterInfo(),
+               R"({"_filterRange":{"_beginRow":{"_value":0},"_endRow":{"_value":18446744073709551615},)"
+               R"("_beginColumn":{"_value":0},"_endColumn":{"_value":18446744073709551615}},)"
+               R"("_filter":{"polymorphic_id":0}})");
+}
+
+TEST(DOM_TableFilterInfo, HasNoFilterUntilOneIsSet)
+{
+    TableFilterInfo info(makeRange(1, 9));
+    EXPECT_EQ(info.getFilter(), nullptr);
+    info.setFilter(std::make_unique<ValuesTableFilter>());
+    EXPECT_NE(info.getFilter(), nullptr);
+}
+
+TEST(DOM_TableFilterInfo, LeavesTheHeaderOut)
+{
+    EXPECT_EQ(makeInfo().getFilterRange(), makeRange(1, 9));
+    EXPECT_EQ(makeInfo().getFilterRangeWithoutHeader(), makeRange(2, 9));
+    EXPECT_EQ(TableFilterInfo(makeRange(4, 6)).getFilterRangeWithoutHeader(), makeRange(5, 6));
+}
+
+TEST(DOM_TableFilterInfoDeathTest, NeedsARowOfData)
+{
+    EXPECT_DEATH(TableFilterInfo(makeRange(4, 5)), R"(filterRange\.getRowCount\(\) > 1)");
+}
+
+TEST(DOM_TableFilterInfoDeathTest, HasNothingButItsHeaderWhenAFileSaysSo)
+{
+    const auto info = fromJson<TableFilterInfo>(
+        R"({"_filterRange":{"_beginRow":{"_value":4},"_endRow":{"_value":5},"_beginColumn":{"_value":0},)"
+        R"("_endColumn":{"_value":1}},"_filter":{"polymorphic_id":0}})");
+    EXPECT_DEATH(info.getFilterRangeWithoutHeader(), R"(TableRange:229: _beginRow < _endRow)");
+}
+
+TEST(DOM_TableFilterInfo, WritesItsRangeAndItsFilter)
+{
+    expectText(makeInfo(),
+               R"({"_filterRange":{"_beginRow":{"_value":1},"_endRow":{"_value":9},"_beginColumn":{"_value":2},)"
+               R"("_endColumn":{"_value":5}},"_filter":)" +
+                   makePolymorphicJson("QN::DOM::ValuesTableFilter",
+                                       R"({"value0":{"value0":{},"_columnIndex":{"_value":3}},"_valuesToShow":[]})") +
+                   "}");
+    expectCopiesAndMoves(makeInfo());
+}
+
+TEST(DOM_TableFilterInfo, SharesNoFilterWithItsCopy)
+{
+    const TableFilterInfo source = makeInfo();
+    const TableFilterInfo copy(source);
+    EXPECT_NE(copy.getFilter().get(), source.getFilter().get());
+    static_cast<ValuesTableFilter&>(*copy.getFilter()).setColumnIndex(ColumnIndex(0));
+    EXPECT_NE(copy, source);
+    EXPECT_EQ(source, makeInfo());
+}
+
+} // namespace
+} // namespace QN::DOM
