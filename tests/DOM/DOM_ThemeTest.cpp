@@ -68,7 +68,7 @@ TEST(ThemeTest, ACopySharesNothing)
 {
     const Theme source = makeTheme();
     expectCopiesAndMoves(source);
-    const Theme copy(source);
+    const Theme copy = makeCopy(source);
     EXPECT_NE(copy.getFormatScheme().getFills()[0], source.getFormatScheme().getFills()[0]);
     static_assert(!Ordered<Theme>);
 }

@@ -13,6 +13,13 @@
 
 namespace QN::Test {
 
+/// A copy, also where one is not needed but to be looked at.
+template <class T>
+T makeCopy(const T& value)
+{
+    return value;
+}
+
 /// Copies, moves, assigns and self-assigns a value. Neither moves nor the destructor may throw.
 template <class T>
 void expectCopiesAndMoves(const T& value)

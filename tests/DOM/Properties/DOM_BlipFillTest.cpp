@@ -75,7 +75,7 @@ TEST(BlipFillTest, SetContentSharesThePointerThatItIsGiven)
 TEST(BlipFillTest, ACopyHasTheBytesInAHolderOfItsOwn)
 {
     const BlipFill source = makeFill("bytes", BlipType::Tile);
-    const BlipFill copy(source);
+    const BlipFill copy = makeCopy(source);
     EXPECT_EQ(copy, source);
     EXPECT_NE(copy.getContent().get(), source.getContent().get());
     BlipFill assigned;

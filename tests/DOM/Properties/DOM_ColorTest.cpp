@@ -183,7 +183,7 @@ TEST(ColorTest, ANanAmountIsLastInTheOrderOfPools)
 
 TEST(ColorTest, ANanAmountSurvivesAFile)
 {
-    const Color loaded = fromJson<Color>(toJson(makePlaceholder({Tint(NaN), Complement()})));
+    const auto loaded = fromJson<Color>(toJson(makePlaceholder({Tint(NaN), Complement()})));
     ASSERT_EQ(loaded.getTransforms().size(), 2U);
     EXPECT_TRUE(std::isnan(boost::get<Tint>(loaded.getTransforms().front()).get()));
 }

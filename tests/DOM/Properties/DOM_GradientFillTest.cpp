@@ -58,7 +58,7 @@ TEST(GradientFillTest, PersistsItsMembersInOrder)
 TEST(GradientFillTest, StopsOutOfPositionOrderStaySo)
 {
     const GradientFill fill = makeFill({1.0, 0.0, 0.5, 0.0});
-    const GradientFill loaded = fromJson<GradientFill>(toJson(fill));
+    const auto loaded = fromJson<GradientFill>(toJson(fill));
     ASSERT_EQ(loaded.getGradientStops().size(), 4U);
     EXPECT_EQ(loaded.getGradientStops()[0].getPosition(), 1.0);
     EXPECT_EQ(loaded.getGradientStops()[1].getPosition(), 0.0);

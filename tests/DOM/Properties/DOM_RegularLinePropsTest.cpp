@@ -85,7 +85,7 @@ TEST(RegularLinePropsTest, OneEndingAtBothEndsStaysOneObject)
         changed.setHeadLineEnding(makeEnding(1.0F));
         changed.setTailLineEnding(changed.getHeadLineEnding());
     });
-    const RegularLineProps loaded = fromJson<RegularLineProps>(toJson(line));
+    const auto loaded = fromJson<RegularLineProps>(toJson(line));
     EXPECT_EQ(loaded, line);
     EXPECT_EQ(loaded.getHeadLineEnding(), loaded.getTailLineEnding());
 }
@@ -215,7 +215,7 @@ TEST(RegularLinePropsTest, ACopySharesTheImmutableEndings)
 {
     expectCopiesAndMoves(makeFullLine());
     const RegularLineProps source = makeFullLine();
-    const RegularLineProps copy(source);
+    const RegularLineProps copy = makeCopy(source);
     EXPECT_EQ(copy.getHeadLineEnding(), source.getHeadLineEnding());
     RegularLineProps changed(source);
     changed.setWidth(boost::none);

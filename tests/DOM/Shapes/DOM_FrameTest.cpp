@@ -155,7 +155,7 @@ TEST(FrameTest, CopiesShowTheVerySameObjectAndCrop)
     static_assert(!std::is_polymorphic_v<Frame>);
     const Frame source = makeFullFrame();
     expectCopiesAndMoves(source);
-    const Frame copy(source);
+    const Frame copy = makeCopy(source);
     EXPECT_EQ(copy.getGraphicalObject(), source.getGraphicalObject());
     EXPECT_EQ(copy.getGraphicalObject()->getID(), source.getGraphicalObject()->getID());
     EXPECT_EQ(copy.getCrop(), source.getCrop());

@@ -75,7 +75,7 @@ TEST(PictureTest, CopiesShareBytesAndIdentity)
 {
     const Picture picture = makePicture("bytes");
     expectCopiesAndMoves(picture);
-    const Picture copy(picture);
+    const Picture copy = makeCopy(picture);
     EXPECT_EQ(copy.getPictureData(), picture.getPictureData());
     EXPECT_EQ(copy.getID(), picture.getID());
     EXPECT_EQ(clone<GraphicalObject>(picture)->getID(), picture.getID());

@@ -217,7 +217,7 @@ TEST(ShapePropsTest, ACopyClonesFillAndLineAndSharesThePadding)
     const ShapeProps source = makeFullProps();
     expectCopiesAndMoves(source);
     expectCopiesAndMoves(ShapeProps());
-    const ShapeProps copy(source);
+    const ShapeProps copy = makeCopy(source);
     EXPECT_NE(copy.getFill(), source.getFill());
     EXPECT_NE(copy.getLineProps(), source.getLineProps());
     EXPECT_EQ(copy.getPadding(), source.getPadding());

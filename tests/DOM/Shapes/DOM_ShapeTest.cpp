@@ -166,7 +166,7 @@ TEST(ShapeTest, CopiesAreDeepButForTheStyleAndKeepTheIdentity)
     const Shape source = makeFullShape();
     expectCopiesAndMoves(source);
     expectCopiesAndMoves(Shape());
-    const Shape copy(source);
+    const Shape copy = makeCopy(source);
     EXPECT_EQ(copy.getID(), source.getID());
     EXPECT_EQ(copy.getSharedStyle(), source.getSharedStyle());
     EXPECT_NE(copy.getGeometry(), source.getGeometry());
