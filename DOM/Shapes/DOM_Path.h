@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "DOM/Shapes/DOM_PathCommand.h"
+#include "Utils/Public/ReadonlyVector.h"
 
 namespace QN::DOM::DrawingCommands {
 
@@ -37,7 +38,7 @@ public:
     long getHeight() const { return _height; }
     void setHeight(long height) { _height = height; }
 
-    const std::vector<std::unique_ptr<PathCommand>>& getCommands() const { return _commands; }
+    ReadonlyPtrVector<PathCommand> getCommands() const { return _commands; }
     std::vector<std::unique_ptr<PathCommand>>& getCommands() { return _commands; }
 
     bool isClosed() const { return _isClosed; }
