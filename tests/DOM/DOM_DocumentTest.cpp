@@ -1,0 +1,378 @@
+#include "DOM/DOM_Document.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <limits>
+
+#include "DOM/DOM_ColorMap.h"
+#include "DOM/DOM_Comment.h"
+#include "DOM/DOM_FieldBlock.h"
+#include "DOM/DOM_HeaderFooterPair.h"
+#include "DOM/DOM_Note.h"
+#include "DOM/DOM_SectionTag.h"
+#include "DOM/DOM_Theme.h"
+#include "DOM/FormulaSyntaxTree/DOM_Number.h"
+#include "DOM/Properties/DOM_NamedTextStyle.h"
+#include "DOM/TextSamples.h"
+#include "DOM/ValueChecks.h"
+#include "Support/RoundTrip.h"
+
+namespace QN::DOM {
+namespace {
+
+using namespace QN::Test;
+using CollaborationUtils::IndexIncludingTombstones;
+
+constexpr const char* EmptyCollectionJson = R"({"_collection":[]})";
+
+template <class T>
+UUIDContainer<T> makeContainer(char digit)
+{
+    UUIDContainer<T> container;
+    container.insert(T(makeUUID(digit)));
+    return container;
+}
+
+void setName(Document& document, const std::string& name, double value)
+{
+    document.getDefinedNames()[name] = std::make_unique<FormulaSyntaxTree::Number>(value);
+}
+
+/// One change of each member that takes part in equality, in the order of the keys.
+const std::vector<std::function<void(Document&)>>& getChanges()
+{
+    static const std::vector<std::function<void(Document&)>> Changes{
+        [](Document& document) { document.getProps().setTitle(std::string("title")); },
+        [](Document& document) { document.getBlocks().push_back(makeParagraph({"text"})); },
+        [](Document& document) {
+            document.getTextWithTombstones().getTombstones().replaceWithTombstone(IndexIncludingTombstones(5));
+        },
+        [](Document& document) { document.getScripts().insertScript("name", "text"); },
+        [](Document& document) { document.getStyles().setDefaultParagraphStyleUUID(makeUUID('1')); },
+        [](Document& document) { document.getNumLists().emplace_back(makeUUID('2')); },
+        [](Document& document) { document.setTabStopDistance(12.5F); },
+        [](Document& document) { document.getHeadersFooters() = makeContainer<HeaderFooterPair>('3'); },
+        [](Document& document) { document.getComments() = makeContainer<Comment>('4'); },
+        [](Document& document) { document.getNotes() = makeContainer<Note>('5'); },
+        [](Document& document) { document.setTheme(std::make_unique<Theme>()); },
+        [](Document& document) { document.setColorMap(std::make_unique<ColorMap>()); },
+        [](Document& document) { document.getDefaultSectionProps().setGutter(1.5F); },
+        [](Document& document) { setName(document, "name", 1.5); },
+        [](Document& document) { document.setChangesTrackingEnabled(true); },
+        [](Document& document) { document.setTimeZone(TimeZone(90)); },
+    };
+    return Changes;
+}
+
+Document makeFullDocument()
+{
+    Document document;
+    for (const auto& change : getChanges()) {
+        change(document);
+    }
+    auto& blocks = document.getBlocks();
+    auto paragraph = makeParagraph({"styled"});
+    RunStyle style;
+    style.setParentUUID(makeUUID('6'));
+    paragraph->getRuns()[0]->getSharedStyle() = document.getSharedObjectFactory().create(style);
+    paragraph->getSharedParaMarkStyle() = document.getSharedObjectFactory().create(style);
+    blocks.push_back(std::move(paragraph));
+    blocks.push_back(std::make_unique<SectionTag>());
+    blocks.push_back(std::make_unique<FieldBlock>());
+    blocks.push_back(nullptr);
+    return document;
+}
+
+TEST(DOM_Document, HasItsDefaultsWhenItIsNew)
+{
+    const Document document;
+    EXPECT_TRUE(document.getBlocks().empty());
+    EXPECT_EQ(document.getProps(), DocumentProperties());
+    EXPECT_EQ(document.getTextWithTombstones(), TextWithTombstones());
+    EXPECT_EQ(document.getScripts(), Scripts());
+    EXPECT_EQ(document.getStyles(), Styles());
+    EXPECT_TRUE(document.getNumLists().empty());
+    EXPECT_EQ(document.getTabStopDistance(), 36.0F);
+    EXPECT_TRUE(document.getHeadersFooters().empty());
+    EXPECT_TRUE(document.getComments().empty());
+    EXPECT_TRUE(document.getNotes().empty());
+    EXPECT_EQ(document.getTheme(), nullptr);
+    EXPECT_EQ(document.getColorMap(), nullptr);
+    EXPECT_EQ(document.getDefaultSectionProps(), SectionProps());
+    EXPECT_TRUE(document.getDefinedNames().empty());
+    EXPECT_FALSE(document.isChangesTrackingEnabled());
+    EXPECT_EQ(document.getTimeZone(), TimeZone(0));
+}
+
+TEST(DOM_Document, WritesSixteenKeysInOrder)
+{
+    const std::string expected =
+        R"({"_documentProperties":{"_category":{"hasValue":false},"_contentStatus":{"hasValue":false},)"
+        R"("_description":{"hasValue":false},"_language":{"hasValue":false},"_title":{"hasValue":false}},)"
+        R"("_textWithTombstones":{"_blocks":[],"_tombstones":{"_tombstones":[]}},)"
+        R"("_scripts":{"_scriptsByName":[]},"_styles":)" +
+        toJson(Styles()) + R"(,"_numLists":[],"_tabStopDistance":36.0,"_headersFooters":)" +
+        EmptyCollectionJson + R"(,"_comments":)" + EmptyCollectionJson + R"(,"_notes":)" +
+        EmptyCollectionJson +
+        R"(,"_theme":{"ptr_wrapper":{"valid":0}},"_colorMap":{"ptr_wrapper":{"valid":0}},"_sectionProps":)" +
+        toJson(SectionProps()) +
+        R"(,"_sharedObjectFactory":{},"_definedNames":[],"_trackingChanges":false,"_timeZone":{"_offset":0}})";
+    EXPECT_EQ(toJson(Document()), expected);
+}
+
+TEST(DOM_Document, HoldsWhatIsSet)
+{
+    const Document document = makeFullDocument();
+    EXPECT_EQ(*document.getProps().getTitle(), "title");
+    EXPECT_EQ(document.getBlocks().size(), 5U);
+    EXPECT_EQ(&document.getBlocks().front(), &document.getTextWithTombstones().getBlocks().front());
+    EXPECT_EQ(document.getTextWithTombstones().getTombstones().getTombstonesCount(), 1U);
+    EXPECT_EQ(*document.getScripts().getScript("name"), "text");
+    EXPECT_EQ(document.getStyles().getDefaultParagraphStyleUUID(), makeUUID('1'));
+    EXPECT_EQ(document.getNumLists().front().getUUID(), makeUUID('2'));
+    EXPECT_EQ(document.getTabStopDistance(), 12.5F);
+    EXPECT_NE(document.getHeadersFooters().find(makeUUID('3')), nullptr);
+    EXPECT_NE(document.getComments().find(makeUUID('4')), nullptr);
+    EXPECT_NE(document.getNotes().find(makeUUID('5')), nullptr);
+    EXPECT_NE(document.getTheme(), nullptr);
+    EXPECT_NE(document.getColorMap(), nullptr);
+    EXPECT_TRUE(document.getDefaultSectionProps().getGutter() == 1.5F);
+    EXPECT_EQ(document.getDefinedNames().size(), 1U);
+    EXPECT_TRUE(document.isChangesTrackingEnabled());
+    EXPECT_EQ(document.getTimeZone(), TimeZone(90));
+}
+
+TEST(DOM_Document, SettingNoThemeClearsIt)
+{
+    Document document;
+    document.setTheme(std::make_unique<Theme>());
+    const Theme* const first = document.getTheme();
+    EXPECT_NE(first, nullptr);
+    document.setTheme(nullptr);
+    EXPECT_EQ(document.getTheme(), nullptr);
+    document.setColorMap(std::make_unique<ColorMap>());
+    document.setColorMap(nullptr);
+    EXPECT_EQ(document.getColorMap(), nullptr);
+}
+
+TEST(DOM_Document, EqualsAnotherNewOne)
+{
+    EXPECT_EQ(Document(), Document());
+    EXPECT_EQ(makeFullDocument(), makeFullDocument());
+}
+
+TEST(DOM_Document, ComparesEachMember)
+{
+    for (std::size_t index = 0; index < getChanges().size(); ++index) {
+        Document document;
+        getChanges()[index](document);
+        EXPECT_NE(document, Document()) << index;
+        EXPECT_NE(Document(), document) << index;
+        Document same;
+        getChanges()[index](same);
+        EXPECT_EQ(document, same) << index;
+    }
+}
+
+TEST(DOM_Document, ComparesThemesAndColorMapsByValue)
+{
+    Document left;
+    Document right;
+    left.setTheme(std::make_unique<Theme>());
+    auto theme = std::make_unique<Theme>();
+    theme->setName("name");
+    right.setTheme(std::move(theme));
+    EXPECT_NE(left, right);
+
+    left.setTheme(nullptr);
+    right.setTheme(nullptr);
+    left.setColorMap(std::make_unique<ColorMap>());
+    auto colorMap = std::make_unique<ColorMap>();
+    colorMap->setMapping(static_cast<ThemeColorId>(0), static_cast<ThemeColorId>(1));
+    right.setColorMap(std::move(colorMap));
+    EXPECT_NE(left, right);
+}
+
+TEST(DOM_Document, ComparesDefinedNamesWhateverTheirOrder)
+{
+    Document left;
+    Document right;
+    for (int index = 0; index < 100; ++index) {
+        setName(left, std::to_string(index), index);
+        setName(right, std::to_string(99 - index), 99 - index);
+    }
+    EXPECT_EQ(left, right);
+    setName(right, "50", 51);
+    EXPECT_NE(left, right);
+    right.getDefinedNames().erase("50");
+    setName(right, "100", 50);
+    EXPECT_NE(left, right);
+}
+
+TEST(DOM_Document, ANullExpressionEqualsANullExpressionOnly)
+{
+    Document left;
+    Document right;
+    left.getDefinedNames()["name"] = nullptr;
+    right.getDefinedNames()["name"] = nullptr;
+    EXPECT_EQ(left, right);
+    setName(right, "name", 1);
+    EXPECT_NE(left, right);
+    EXPECT_NE(right, left);
+}
+
+TEST(DOM_Document, ThePoolsOfSharedStylesTakeNoPartInEquality)
+{
+    const Document document;
+    RunStyle style;
+    style.setParentUUID(makeUUID('1'));
+    const auto shared = document.getSharedObjectFactory().create(style);
+    EXPECT_EQ(document, Document());
+}
+
+TEST(DOM_Document, ATabStopDistanceThatIsNoNumberMakesItUnequalToItself)
+{
+    Document document;
+    document.setTabStopDistance(std::numeric_limits<float>::quiet_NaN());
+    const Document& itself = document;
+    EXPECT_FALSE(document == itself);
+    EXPECT_FALSE(document == Document());
+}
+
+TEST(DOM_Document, CopiesAndMoves)
+{
+    expectCopiesAndMoves(Document());
+    expectCopiesAndMoves(makeFullDocument());
+    EXPECT_TRUE(std::is_nothrow_move_assignable_v<Document>);
+}
+
+TEST(DOM_Document, AssigningItToItselfChangesNothing)
+{
+    Document document = makeFullDocument();
+    const Block* const block = document.getBlocks().front().get();
+    const Document& itself = document;
+    document = itself;
+    EXPECT_EQ(document, makeFullDocument());
+    EXPECT_EQ(document.getBlocks().front().get(), block);
+}
+
+TEST(DOM_Document, ACopyHasTheIdentitiesOfItsSourceAndSharesNothingThatCanChange)
+{
+    const Document document = makeFullDocument();
+    const Document expected = document;
+    Document copy = document;
+    EXPECT_EQ(copy.getBlocks().front()->getID(), document.getBlocks().front().getID());
+
+    copy.getProps().setTitle(boost::none);
+    dynamic_cast<Paragraph&>(*copy.getBlocks().front()).getRuns().clear();
+    copy.getScripts().removeScript("name");
+    copy.getNumLists().front().setUUID(makeUUID('9'));
+    copy.getHeadersFooters().find(makeUUID('3'))->setNextHeaderFooterUUID(makeUUID('9'));
+    copy.getComments().find(makeUUID('4'))->setResolved(true);
+    copy.getNotes().find(makeUUID('5'))->setAlwaysVisible(true);
+    dynamic_cast<FormulaSyntaxTree::Number&>(*copy.getDefinedNames()["name"]).setValue(9);
+    EXPECT_EQ(document, expected);
+    EXPECT_NE(copy.getTheme(), document.getTheme());
+    EXPECT_NE(copy.getColorMap(), document.getColorMap());
+}
+
+TEST(DOM_Document, ACopyKeepsThePoolsOfItsSource)
+{
+    const Document document;
+    RunStyle style;
+    style.setParentUUID(makeUUID('1'));
+    const auto shared = document.getSharedObjectFactory().create(style);
+    const Document copy = document;
+    EXPECT_EQ(copy.getSharedObjectFactory().create(style), shared);
+}
+
+TEST(DOM_Document, Persists)
+{
+    expectPersists(Document());
+    expectPersists(makeFullDocument());
+}
+
+TEST(DOM_Document, WritesADefinedNameUnderTheTextThatNamesThePointer)
+{
+    Document document;
+    setName(document, "a", 1.5);
+    document.getDefinedNames()["b"] = nullptr;
+    const std::string expression =
+        R"#({"key":"a","value":{"this->getPtr()":{"polymorphic_id":2147483649,)#"
+        R"("polymorphic_name":"QN::DOM::FormulaSyntaxTree::Number","ptr_wrapper":{"valid":1,"data":)" +
+        toJson(FormulaSyntaxTree::Number(1.5)) + "}}}}";
+    const std::string none = R"#({"key":"b","value":{"this->getPtr()":{"polymorphic_id":0}}})#";
+    const std::string json = toJson(document);
+    EXPECT_NE(json.find(expression), std::string::npos) << json;
+    EXPECT_NE(json.find(none), std::string::npos) << json;
+}
+
+TEST(DOM_Document, ASharedStyleIsWrittenOnceAndStaysShared)
+{
+    const Document document = makeFullDocument();
+    const std::string json = toJson(document);
+    const std::string uuid = makeUUIDJson('6');
+    EXPECT_EQ(json.find(uuid), json.rfind(uuid));
+
+    const auto loaded = fromJson<Document>(json);
+    const auto& paragraph = dynamic_cast<const Paragraph&>(loaded.getBlocks()[1]);
+    EXPECT_EQ(paragraph.getRuns()[0].getSharedStyle(), paragraph.getSharedParaMarkStyle());
+    EXPECT_EQ(paragraph.getParaMarkStyle().getParentUUID(), makeUUID('6'));
+}
+
+TEST(DOM_Document, LoadingReplacesAllContentAndEmptiesThePools)
+{
+    Document document = makeFullDocument();
+    RunStyle style;
+    style.setParentUUID(makeUUID('6'));
+    const auto shared = document.getSharedObjectFactory().create(style);
+    loadJson(toJson(Document()), document);
+    EXPECT_EQ(document, Document());
+    EXPECT_NE(document.getSharedObjectFactory().create(style), shared);
+}
+
+TEST(DOM_Document, TheContentOfThePoolsInAFileIsIgnoredAndTheirKeyIsNot)
+{
+    std::string json = toJson(Document());
+    const std::string key = R"("_sharedObjectFactory":{})";
+    std::string full = json;
+    full.replace(full.find(key), key.size(), R"("_sharedObjectFactory":{"_runStyles":[1,"text"]})");
+    EXPECT_EQ(fromJson<Document>(full), Document());
+
+    json.replace(json.find(key), key.size(), R"("another":{})");
+    EXPECT_EQ(loadError<Document>(json), "JSON Parsing failed - provided NVP (_sharedObjectFactory) not found");
+}
+
+TEST(DOM_Document, AFailedLoadLeavesItPartlyFilled)
+{
+    std::string json = toJson(makeFullDocument());
+    const std::string key = R"("_timeZone")";
+    json.replace(json.find(key), key.size(), R"("another")");
+    Document document;
+    EXPECT_THROW(loadJson(json, document), cereal::Exception);
+    EXPECT_EQ(*document.getProps().getTitle(), "title");
+    EXPECT_EQ(document.getTimeZone(), TimeZone(0));
+}
+
+TEST(DOM_Document, AMapEntryOfADefinedNameGivenTwiceKeepsTheFirst)
+{
+    Document document;
+    setName(document, "a", 1.5);
+    std::string json = toJson(document);
+    const std::string entry = R"#({"key":"a","value":{"this->getPtr()":{"polymorphic_id":0}}})#";
+    const std::string key = R"("_definedNames":[)";
+    json.insert(json.find(key) + key.size(), entry + ",");
+    const auto loaded = fromJson<Document>(json);
+    ASSERT_EQ(loaded.getDefinedNames().size(), 1U);
+    EXPECT_TRUE(loaded.getDefinedNames().at("a") == nullptr);
+}
+
+TEST(DOM_DocumentDeathTest, ReadingANullBlockFailsTheContract)
+{
+    const Document document = makeFullDocument();
+    EXPECT_DEATH(document.getBlocks().back(), "Utils/Public/Ptr/PtrUtils:254: plainPtr");
+}
+
+} // namespace
+} // namespace QN::DOM
