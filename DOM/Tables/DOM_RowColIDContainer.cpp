@@ -5,6 +5,7 @@
 
 #include "Utils/Public/Assert.h"
 #include "Utils/Public/ClassScheme/Define.h"
+#include "Utils/Public/VectorUtils.h"
 
 namespace QN::DOM {
 
@@ -15,12 +16,6 @@ constexpr std::uint64_t Up = 1;
 constexpr std::uint64_t Down = ~std::uint64_t{0};
 
 constexpr auto IndexIsBelow = [](const auto& entry, std::uint64_t index) { return entry.index < index; };
-
-template <class Vector>
-auto at(Vector& vector, std::size_t position)
-{
-    return vector.begin() + static_cast<std::ptrdiff_t>(position);
-}
 
 } // namespace
 
@@ -106,7 +101,7 @@ void RowColIDContainer::insert(std::uint64_t index, std::uint64_t id)
     shiftItems(item, Up);
     if (id > _predefinedIDsCount) {
         _idToIndex[id] = index;
-        _insertedItems.insert(at(_insertedItems, item), IndexID{index, id});
+        _insertedItems.insert(iteratorAt(_insertedItems, item), IndexID{index, id});
     }
 }
 
@@ -115,7 +110,7 @@ void RowColIDContainer::remove(std::uint64_t index)
     const std::size_t item = findItemLowerBound(index);
     if (item < _insertedItems.size() && _insertedItems[item].index == index) {
         _idToIndex.erase(_insertedItems[item].id);
-        _insertedItems.erase(at(_insertedItems, item));
+        _insertedItems.erase(iteratorAt(_insertedItems, item));
     }
     shiftItems(item, Down);
     shiftCachedIds(index, Down);
@@ -131,7 +126,7 @@ void RowColIDContainer::validate() const
     }
     for (const auto& [id, index] : _idToIndex) {
         QN_ASSERT(id > _predefinedIDsCount);
-        const auto it = at(_insertedItems, findItemLowerBound(index));
+        const auto it = iteratorAt(_insertedItems, findItemLowerBound(index));
         QN_ASSERT(it != _insertedItems.end() && it->index == index && it->id == id);
     }
 }
@@ -167,7 +162,7 @@ void RowColIDContainer::splitPredefinedWhenInsert(std::uint64_t index, std::uint
         if (index > range.index) {
             const std::uint64_t offset = index - range.index;
             if (offset <= range.lastID - range.firstID) {
-                _predefinedIDs.insert(at(_predefinedIDs, next + 1),
+                _predefinedIDs.insert(iteratorAt(_predefinedIDs, next + 1),
                                       IndexIDRange{index, range.firstID + offset, range.lastID});
                 _predefinedIDs[next].lastID = range.firstID + offset - 1;
             }
@@ -175,7 +170,7 @@ void RowColIDContainer::splitPredefinedWhenInsert(std::uint64_t index, std::uint
         }
     }
     if (id <= _predefinedIDsCount) {
-        _predefinedIDs.insert(at(_predefinedIDs, next), IndexIDRange{index, id, id});
+        _predefinedIDs.insert(iteratorAt(_predefinedIDs, next), IndexIDRange{index, id, id});
         ++next;
     }
     shiftPredefinedIDs(next, Up);
@@ -190,7 +185,7 @@ void RowColIDContainer::splitPredefinedWhenRemove(std::uint64_t index)
     const IndexIDRange range = _predefinedIDs[next];
     if (index == range.index) {
         if (range.firstID == range.lastID) {
-            _predefinedIDs.erase(at(_predefinedIDs, next));
+            _predefinedIDs.erase(iteratorAt(_predefinedIDs, next));
         } else {
             ++_predefinedIDs[next].firstID;
             ++next;
@@ -200,7 +195,7 @@ void RowColIDContainer::splitPredefinedWhenRemove(std::uint64_t index)
         if (offset <= range.lastID - range.firstID) {
             const IndexIDRange tail{index, range.firstID + offset + 1, range.lastID};
             if (tail.firstID <= tail.lastID) {
-                _predefinedIDs.insert(at(_predefinedIDs, next + 1), tail);
+                _predefinedIDs.insert(iteratorAt(_predefinedIDs, next + 1), tail);
             }
             _predefinedIDs[next].lastID = range.firstID + offset - 1;
             next += tail.firstID <= tail.lastID ? 1 : 0;

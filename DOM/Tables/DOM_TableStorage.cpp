@@ -3,19 +3,13 @@
 #include "DOM/Tables/DOM_PivotTable.h"
 #include "DOM/Tables/DOM_Table.h"
 #include "Utils/Public/Assert.h"
+#include "Utils/Public/VectorUtils.h"
 
 /// Finding, storing and dropping single cells.
 
 namespace QN::DOM {
 
 namespace {
-
-/// The position of a vector's element.
-template <class Vector>
-auto at(Vector& vector, std::size_t place)
-{
-    return vector.begin() + static_cast<std::ptrdiff_t>(place);
-}
 
 TableRange getCapturedRange(RowIndex row, ColumnIndex column, std::uint64_t capturedRows, std::uint64_t capturedColumns)
 {
@@ -46,7 +40,7 @@ TableChunk::Boundaries Table::getRowBoundaries(std::size_t chunk, RowIndex row) 
 std::size_t Table::getLBCell(const TableChunk& chunk, const TableChunk::Boundaries& boundaries,
                              ColumnIndex column) const
 {
-    const auto place = std::lower_bound(at(chunk.data, boundaries.begin), at(chunk.data, boundaries.end), column.get(),
+    const auto place = std::lower_bound(iteratorAt(chunk.data, boundaries.begin), iteratorAt(chunk.data, boundaries.end), column.get(),
                                         [&](const CellDataByCol& cell, std::uint64_t value) {
                                             return _colIDContainer.getIndex(cell.colID.get()) < value;
                                         });
@@ -56,7 +50,7 @@ std::size_t Table::getLBCell(const TableChunk& chunk, const TableChunk::Boundari
 std::size_t Table::getUBCell(const TableChunk& chunk, const TableChunk::Boundaries& boundaries,
                              ColumnIndex column) const
 {
-    const auto place = std::upper_bound(at(chunk.data, boundaries.begin), at(chunk.data, boundaries.end), column.get(),
+    const auto place = std::upper_bound(iteratorAt(chunk.data, boundaries.begin), iteratorAt(chunk.data, boundaries.end), column.get(),
                                         [&](std::uint64_t value, const CellDataByCol& cell) {
                                             return value < _colIDContainer.getIndex(cell.colID.get());
                                         });
@@ -113,7 +107,7 @@ Table::Place Table::findPlace(RowIndex row, ColumnIndex column)
 void Table::insertAt(const Place& place, std::unique_ptr<Cell> cell, ColumnID id)
 {
     TableChunk& chunk = _chunks[place.chunk];
-    chunk.data.emplace(at(chunk.data, place.data), std::move(cell), id);
+    chunk.data.emplace(iteratorAt(chunk.data, place.data), std::move(cell), id);
 }
 
 void Table::splitChunkIfNeeded(std::size_t chunkIndex)
@@ -130,7 +124,7 @@ void Table::splitChunk(std::size_t chunkIndex)
         return;
     }
     _chunks.reserve(_chunks.size() + 1);
-    _chunks.insert(at(_chunks, chunkIndex + 1), _chunks[chunkIndex].split(median));
+    _chunks.insert(iteratorAt(_chunks, chunkIndex + 1), _chunks[chunkIndex].split(median));
 }
 
 Cell& Table::getOrCreateCell(RowIndex row, ColumnIndex column)
@@ -199,7 +193,7 @@ void Table::removeCell(RowIndex row, ColumnIndex column)
     }
     _mergedCellsCache.unmergeCells(row, column);
     _pivotTablesCache.removePivot(row, column);
-    chunk.data.erase(at(chunk.data, place));
+    chunk.data.erase(iteratorAt(chunk.data, place));
     chunk.lowerOffsetsBehind(relativeRow, 1);
 }
 

@@ -4,18 +4,13 @@
 #include "DOM/Tables/DOM_Table.h"
 #include "Utils/Public/Assert.h"
 #include "Utils/Public/Opt/OptUtils.h"
+#include "Utils/Public/VectorUtils.h"
 
 /// Rows and columns that come and go.
 
 namespace QN::DOM {
 
 namespace {
-
-template <class Vector>
-auto at(Vector& vector, std::size_t place)
-{
-    return vector.begin() + static_cast<std::ptrdiff_t>(place);
-}
 
 /// Moves the style of an identifier out of a map.
 template <class Styles, class ID>
@@ -66,7 +61,7 @@ void Table::insertRow(RowData rowData, RowIndex position)
     const std::size_t relativeRow = chunk.getRelativeRow(position);
     if (relativeRow < chunk.rowDataOffsets.size()) {
         const std::uint64_t offset = chunk.rowDataOffsets[relativeRow];
-        chunk.rowDataOffsets.insert(at(chunk.rowDataOffsets, relativeRow), offset);
+        chunk.rowDataOffsets.insert(iteratorAt(chunk.rowDataOffsets, relativeRow), offset);
     } else {
         chunk.extendTo(relativeRow);
     }
@@ -99,7 +94,7 @@ void Table::insertRowCells(RowData& rowData, RowIndex position, TableChunk& chun
         }
         cells.emplace_back(std::move(cell), getID(column));
     }
-    chunk.data.insert(at(chunk.data, chunk.getRelativeRowBoundaries(relativeRow).begin),
+    chunk.data.insert(iteratorAt(chunk.data, chunk.getRelativeRowBoundaries(relativeRow).begin),
                       std::make_move_iterator(cells.begin()), std::make_move_iterator(cells.end()));
     chunk.raiseOffsetsBehind(relativeRow, cells.size());
 }
@@ -142,20 +137,20 @@ void Table::removeRowCells(std::size_t chunkIndex, std::size_t relativeRow, RowD
 {
     TableChunk& chunk = _chunks[chunkIndex];
     const TableChunk::Boundaries boundaries = chunk.getRelativeRowBoundaries(relativeRow);
-    const auto begin = at(chunk.data, boundaries.begin);
-    const auto end = at(chunk.data, boundaries.end);
+    const auto begin = iteratorAt(chunk.data, boundaries.begin);
+    const auto end = iteratorAt(chunk.data, boundaries.end);
     removed.cells.reserve(boundaries.end - boundaries.begin);
     for (auto cell = begin; cell != end; ++cell) {
         removed.cells.emplace_back(ColumnIndex(_colIDContainer.getIndex(cell->colID.get())), std::move(cell->cell));
     }
     chunk.data.erase(begin, end);
     chunk.lowerOffsetsBehind(relativeRow, removed.cells.size());
-    chunk.rowDataOffsets.erase(at(chunk.rowDataOffsets, relativeRow));
+    chunk.rowDataOffsets.erase(iteratorAt(chunk.rowDataOffsets, relativeRow));
     for (std::size_t later = chunkIndex + 1; later < _chunks.size(); ++later) {
         --_chunks[later].startRowIndex;
     }
     if (chunk.rowDataOffsets.empty() && _chunks.size() > 1) {
-        _chunks.erase(at(_chunks, chunkIndex));
+        _chunks.erase(iteratorAt(_chunks, chunkIndex));
     }
 }
 
@@ -261,10 +256,10 @@ void Table::removeColumnCells(TableChunk& chunk, ColumnIndex index, ColumnData& 
     if (places.empty()) {
         return;
     }
-    auto target = at(chunk.data, places.front());
+    auto target = iteratorAt(chunk.data, places.front());
     for (std::size_t gap = 0; gap < places.size(); ++gap) {
-        const auto next = gap + 1 < places.size() ? at(chunk.data, places[gap + 1]) : chunk.data.end();
-        target = std::move(at(chunk.data, places[gap] + 1), next, target);
+        const auto next = gap + 1 < places.size() ? iteratorAt(chunk.data, places[gap + 1]) : chunk.data.end();
+        target = std::move(iteratorAt(chunk.data, places[gap] + 1), next, target);
     }
     chunk.data.erase(target, chunk.data.end());
     chunk.rowDataOffsets = std::move(offsets);

@@ -9,7 +9,7 @@ namespace QN::DOM::DrawingFormulas {
 
 namespace {
 
-const ExpressionsDynamicInitEnforcer expressionsDynamicInitEnforcer;
+const ExpressionsDynamicInitEnforcer formulasMapInitEnforcer;
 
 } // namespace
 

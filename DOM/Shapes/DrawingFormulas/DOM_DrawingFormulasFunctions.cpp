@@ -48,7 +48,7 @@ struct OperandPlacesOf {
 
 namespace {
 
-const ExpressionsDynamicInitEnforcer expressionsDynamicInitEnforcer;
+const ExpressionsDynamicInitEnforcer functionsInitEnforcer;
 
 OperandPlaces placesOf(Expression& node)
 {

@@ -35,7 +35,7 @@ struct JSONOutputArchive::Tracking {
 
 namespace {
 
-constexpr std::uint32_t FirstOccurrence = 0x80000000U;
+constexpr std::uint32_t FirstOfItsKind = 0x80000000U;
 constexpr std::size_t NumberSize = 32;
 
 /// For each byte below 0x80 what follows the backslash in a string: 0 for nothing to escape, 'u' for a code.
@@ -224,7 +224,7 @@ JSONOutputArchive::SharedId JSONOutputArchive::findShared(const void* address, c
     }
     const auto number = static_cast<std::uint32_t>(_tracking->sharedIds.size() + 1);
     const auto [entry, isNew] = _tracking->sharedIds.try_emplace({address, &type}, number);
-    return {isNew ? entry->second | FirstOccurrence : entry->second, isNew};
+    return {isNew ? entry->second | FirstOfItsKind : entry->second, isNew};
 }
 
 void JSONOutputArchive::keepAlive(std::shared_ptr<const void> object)
@@ -259,7 +259,7 @@ const OutputTypeEntry& JSONOutputArchive::writePolymorphicType(const std::type_i
     }
     const std::uint32_t id = entry->second.id;
     writeKey("polymorphic_id");
-    saveValue(static_cast<std::uint64_t>(isFirst ? id | FirstOccurrence : id));
+    saveValue(static_cast<std::uint64_t>(isFirst ? id | FirstOfItsKind : id));
     if (isFirst) {
         writeKey("polymorphic_name");
         saveValue(std::string_view(entry->second.binding->name->getName()));
