@@ -6,7 +6,7 @@
 
 #include "DOM/DOM.h"
 #include "Utils/Public/Archive/JSONArchives.h"
-#include "tests/Support/StatedStops.h"
+#include "Support/StatedStops.h"
 
 /// Loads any bytes as a document. What loads is copied, compared and saved; what was saved must load again and be saved to
 /// the same bytes.
