@@ -70,6 +70,10 @@ QN_DEFINE_POINTER_REBASE(TrackedObject<TrackChangesType>, TrackedObject<TrackCha
 QN_DEFINE_POINTER_REBASE(const TrackedObject<UUID>, TrackedObject<UUID>)
 QN_DEFINE_POINTER_REBASE(TrackedObject<UUID>, TrackedObject<UUID>)
 
+#undef QN_DEFINE_VALUE_ALGEBRA
+#undef QN_DEFINE_VALUE_REBASE
+#undef QN_DEFINE_POINTER_REBASE
+
 std::shared_ptr<TrackedObject<UUID>> makeTrackedParent(const TrackChangesInfo& info, const UUID& parentUUID)
 {
     return std::make_shared<TrackedObject<UUID>>(info, parentUUID);

@@ -13,7 +13,7 @@ class const_multi_array_ref;
 
 namespace cinder {
 template <typename T>
-class ColorT;
+struct ColorT;
 } // namespace cinder
 
 namespace QN::DOM {
@@ -38,8 +38,9 @@ public:
     std::string toString() const;
 
     /// Reads what `toString` writes. An address stands in angle brackets, holds an "@" with text on both sides, ends the
-    /// text or a line of it, and begins it or follows a white space, which belongs to neither part. A text without an
-    /// address is a name as a whole.
+    /// text or a line of it, and begins it or follows a white space, which belongs to neither part. The first bracket
+    /// that can begin one does, so that brackets in a name can go to the address. A text without an address is a name as
+    /// a whole.
     static UserInfo fromString(std::string text);
 
     /// One colour for as long as the address, or, without an address, the name stays the same. An empty palette fails the

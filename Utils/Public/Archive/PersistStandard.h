@@ -4,9 +4,11 @@
 #include <boost/variant/get.hpp>
 #include <boost/variant/variant.hpp>
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "Utils/Public/Archive/Persist.h"
 #include "Utils/Public/ClassScheme/TypeTraits.h"
@@ -167,18 +169,28 @@ struct Persist<std::array<T, Size>> {
     }
 };
 
-/// An array of objects with the keys "key" and "value". Of two entries with one key the first stays.
+/// An array of objects with the keys "key" and "value". Of two entries with one key the first stays. A hash map is
+/// written in the order of its keys, so that equal maps give the same text.
 template <IsMap T>
 struct Persist<T> {
     static void save(cereal::JSONOutputArchive& archive, const T& value)
     {
         archive.startArray();
-        for (const auto& [key, mapped] : value) {
-            archive.separate();
-            archive.startObject();
-            archive.member("key", key);
-            archive.member("value", mapped);
-            archive.endObject();
+        if constexpr (IsHashMap<T>) {
+            std::vector<const typename T::value_type*> entries;
+            entries.reserve(value.size());
+            for (const auto& entry : value) {
+                entries.push_back(&entry);
+            }
+            std::sort(entries.begin(), entries.end(),
+                      [](const auto* left, const auto* right) { return left->first < right->first; });
+            for (const auto* const entry : entries) {
+                saveEntry(archive, *entry);
+            }
+        } else {
+            for (const auto& entry : value) {
+                saveEntry(archive, entry);
+            }
         }
         archive.endArray();
     }
@@ -201,6 +213,16 @@ struct Persist<T> {
             value.emplace(std::move(key), std::move(mapped));
         }
         archive.leave();
+    }
+
+private:
+    static void saveEntry(cereal::JSONOutputArchive& archive, const typename T::value_type& entry)
+    {
+        archive.separate();
+        archive.startObject();
+        archive.member("key", entry.first);
+        archive.member("value", entry.second);
+        archive.endObject();
     }
 };
 

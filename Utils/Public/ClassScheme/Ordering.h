@@ -143,6 +143,13 @@ std::partial_ordering compareDeeply(const T& left, const T& right, NanOrder nanO
     }
 }
 
+/// Whether one value of a member is less than another; a NaN ends the comparison as "not less".
+template <class T>
+bool areMembersDeeplyLess(const T& left, const T& right)
+{
+    return compareDeeply(left, right, NanOrder::Unordered) < 0;
+}
+
 /// The lexicographic order of the persisted bases and then of the members, in the order of the list.
 template <Described T>
 std::partial_ordering compareAllMembers(const T& left, const T& right, NanOrder nanOrder)

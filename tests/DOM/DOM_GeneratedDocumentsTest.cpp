@@ -1,0 +1,125 @@
+#include <gtest/gtest.h>
+
+#include "DOM/DOM.h"
+#include "Support/RandomDocument.h"
+#include "Support/RoundTrip.h"
+#include "Support/Randomize.h"
+#include "Support/StatedStops.h"
+
+namespace QN::Test {
+namespace {
+
+constexpr std::uint64_t Documents = 10000;
+
+/// Mostly small documents, and now and then a large one.
+int depthOf(std::uint64_t seed)
+{
+    return seed % 100 == 0 ? 4 : seed % 10 == 0 ? 3 : 2;
+}
+
+TEST(GeneratedDocumentsTest, LoadAsTheyWereSavedAndSaveToTheSameBytes)
+{
+    for (std::uint64_t seed = 1; seed <= Documents; ++seed) {
+        const DOM::Document document = makeRandomDocument(seed, depthOf(seed));
+        const std::string json = toJson(document);
+        DOM::Document loaded;
+        loadJson(json, loaded);
+        ASSERT_TRUE(loaded == document) << "seed " << seed;
+        ASSERT_EQ(toJson(loaded), json) << "seed " << seed;
+    }
+}
+
+TEST(GeneratedDocumentsTest, AreEqualToTheirCopies)
+{
+    for (std::uint64_t seed = 1; seed <= 500; ++seed) {
+        const DOM::Document document = makeRandomDocument(seed, 3);
+        const DOM::Document copy(document);
+        ASSERT_TRUE(copy == document) << "seed " << seed;
+        ASSERT_EQ(toJson(copy), toJson(document)) << "seed " << seed;
+    }
+}
+
+TEST(GeneratedDocumentsTest, LoadTheSameFromKeysInAnyOrderAmongUnknownKeys)
+{
+    for (std::uint64_t seed = 1; seed <= 200; ++seed) {
+        const std::string json = toJson(makeRandomDocument(seed, 3));
+        DOM::Document loaded;
+        loadJson(shuffleMembers(json, static_cast<unsigned>(seed)), loaded);
+        ASSERT_EQ(toJson(loaded), json) << "seed " << seed;
+    }
+}
+
+TEST(GeneratedDocumentsTest, EndInTheMissingKeyMessageWithoutAnyOneKey)
+{
+    expectMissingKeysFail(makeRandomDocument(3, 2));
+}
+
+/// A document of about 20 KB.
+std::string makeMediumText()
+{
+    for (std::uint64_t seed = 1;; ++seed) {
+        const std::string json = toJson(makeRandomDocument(seed));
+        if (json.size() > 19000 && json.size() < 22000) {
+            return json;
+        }
+    }
+}
+
+/// Loads any text: it ends in a document, which is then used, or in an exception of the archive.
+void loadAnything(const std::string& text)
+{
+    if (holdsReversedIndexRange(text)) {
+        return;
+    }
+    try {
+        DOM::Document document;
+        loadJson(text, document);
+        const DOM::Document copy(document);
+        static_cast<void>(copy == document);
+        static_cast<void>(toJson(copy));
+    } catch (const cereal::Exception& error) {
+        EXPECT_STRNE(error.what(), "");
+    }
+}
+
+TEST(GeneratedDocumentsTest, CutOffAtAnyByteEndInAnException)
+{
+    const std::string json = makeMediumText();
+    for (std::size_t length = 0; length < json.size(); ++length) {
+        EXPECT_EQ(loadError<DOM::Document>(json.substr(0, length)),
+                  "rapidjson internal assertion failure: IsObject()")
+            << length;
+    }
+}
+
+TEST(GeneratedDocumentsTest, WithAnyByteChangedEndInADocumentOrAnException)
+{
+    const std::string json = makeMediumText();
+    Random random(11);
+    const std::string replacements = "0123456789{}[]\",:\\-.etn_ ";
+    for (std::size_t place = 0; place < json.size(); ++place) {
+        for (int round = 0; round < 8; ++round) {
+            std::string text = json;
+            switch (round) {
+            case 0:
+                text.erase(place, 1);
+                break;
+            case 1:
+                text.insert(place, 1, replacements[random.below(replacements.size())]);
+                break;
+            case 2:
+                text[place] = static_cast<char>(text[place] ^ (1 << random.below(8)));
+                break;
+            case 3:
+                text[place] = static_cast<char>(random.bits());
+                break;
+            default:
+                text[place] = replacements[random.below(replacements.size())];
+            }
+            loadAnything(text);
+        }
+    }
+}
+
+} // namespace
+} // namespace QN::Test
