@@ -1,0 +1,41 @@
+#include "DOM/DOM_PredefinedEntities.h"
+
+#include <gtest/gtest.h>
+
+#include <utility>
+
+#include "DOM/DOM_Document.h"
+#include "DOM/DOM_NumberingLevel.h"
+#include "DOM/PredefinedStyles/DOM_PredefinedTextStylesUtils.h"
+#include "DOM/Properties/DOM_NamedTextStyle.h"
+
+namespace QN::DOM {
+
+TEST(PredefinedEntitiesTest, ANewDocumentReceivesTheListsAndTheTextStyles)
+{
+    Document document;
+    appendPredefinedEntities(document);
+    EXPECT_EQ(document.getNumLists().size(), 15U);
+    EXPECT_EQ(std::as_const(document).getStyles().getTextStyles().size(), 21U);
+    EXPECT_EQ(document.getStyles().getDefaultParagraphStyleUUID(),
+              makePredefinedTextStyleUUID(PredefinedStyleName::Normal));
+}
+
+TEST(PredefinedEntitiesTest, TheStylesOfTheLevelsComeFromThePoolsOfTheDocument)
+{
+    Document document;
+    appendPredefinedEntities(document);
+    const auto& level = *document.getNumLists()[0].getNumberingLevels()[0];
+    EXPECT_EQ(document.getSharedObjectFactory().create(level.getStyle()), level.getSharedStyle());
+}
+
+TEST(PredefinedEntitiesTest, AppendingAgainChangesNothing)
+{
+    Document document;
+    appendPredefinedEntities(document);
+    const Document before(document);
+    appendPredefinedEntities(document);
+    EXPECT_TRUE(document == before);
+}
+
+} // namespace QN::DOM
