@@ -74,9 +74,11 @@ void loadAnything(const std::string& text)
     try {
         DOM::Document document;
         loadJson(text, document);
-        const DOM::Document copy(document);
-        static_cast<void>(copy == document);
-        static_cast<void>(toJson(copy));
+        static_cast<void>(toJson(document));
+        if (!holdsTableOrFormula(text)) {
+            const DOM::Document copy(document);
+            static_cast<void>(copy == document);
+        }
     } catch (const cereal::Exception& error) {
         EXPECT_STRNE(error.what(), "");
     }

@@ -41,9 +41,9 @@ bool isReversedRange(const Value& object)
     return false;
 }
 
-} // namespace
-
-bool holdsReversedIndexRange(std::string_view json)
+/// Whether a check holds for any value at any level of a text; false for what is no JSON.
+template <class Check>
+bool anyValue(std::string_view json, const Check& check)
 {
     constexpr unsigned ParseFlags = rapidjson::kParseIterativeFlag | rapidjson::kParseNanAndInfFlag;
     rapidjson::Document document;
@@ -55,20 +55,38 @@ bool holdsReversedIndexRange(std::string_view json)
     while (!open.empty()) {
         const Value& value = *open.back();
         open.pop_back();
+        if (check(value)) {
+            return true;
+        }
         if (value.IsArray()) {
             for (const Value& element : value.GetArray()) {
                 open.push_back(&element);
             }
         } else if (value.IsObject()) {
-            if (isReversedRange(value)) {
-                return true;
-            }
             for (const auto& member : value.GetObject()) {
                 open.push_back(&member.value);
             }
         }
     }
     return false;
+}
+
+} // namespace
+
+bool holdsReversedIndexRange(std::string_view json)
+{
+    return anyValue(json, [](const Value& value) { return value.IsObject() && isReversedRange(value); });
+}
+
+bool holdsTableOrFormula(std::string_view json)
+{
+    return anyValue(json, [](const Value& value) {
+        if (!value.IsString()) {
+            return false;
+        }
+        const std::string_view text(value.GetString(), value.GetStringLength());
+        return text == "QN::DOM::Table" || text.starts_with("QN::DOM::FormulaSyntaxTree::");
+    });
 }
 
 } // namespace QN::Test
