@@ -293,6 +293,15 @@ TEST(DOM_Document, Persists)
     expectPersists(makeFullDocument());
 }
 
+TEST(DOM_Document, ManyDefinedNamesAreSavedAgainToTheSameBytes)
+{
+    Document document;
+    for (int index = 0; index < 300; ++index) {
+        setName(document, "name " + std::to_string(index * 7919 % 300), index);
+    }
+    expectRoundTrip(document);
+}
+
 TEST(DOM_Document, WritesADefinedNameUnderTheTextThatNamesThePointer)
 {
     Document document;
