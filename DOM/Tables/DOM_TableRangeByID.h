@@ -44,6 +44,7 @@ public:
     }
 
     QN_ORDERED_VALUE(TableRangeByID)
+    QN_JSON_ORDER(0, 2, 1, 3)
 
 private:
     RowID _beginRowID{0};
@@ -51,7 +52,6 @@ private:
     ColumnID _beginColID{0};
     ColumnID _lastColID{0};
 
-    QN_JSON_ORDER(0, 2, 1, 3)
     BOOST_DESCRIBE_CLASS(TableRangeByID, (), (), (), (_beginRowID, _lastRowID, _beginColID, _lastColID))
 };
 

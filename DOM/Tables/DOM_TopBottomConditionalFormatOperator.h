@@ -29,13 +29,13 @@ public:
     void setValue(std::uint32_t value) { _value = value; }
 
     QN_VALUE(TopBottomConditionalFormatOperator)
+    QN_JSON_ORDER(0, 2, 1)
 
 private:
     Type _type = Type::Top;
     bool _usePercent = false;
     std::uint32_t _value = 0;
 
-    QN_JSON_ORDER(0, 2, 1)
     BOOST_DESCRIBE_CLASS(TopBottomConditionalFormatOperator, (), (), (), (_type, _usePercent, _value))
 };
 

@@ -42,6 +42,7 @@ public:
     void setColRange(const ColumnRange& colRange);
 
     QN_ORDERED_VALUE(HeaderRowsCols)
+    QN_JSON_ORDER(0, 2, 1, 3)
 
 private:
     boost::optional<RowID> _beginRowID;
@@ -49,7 +50,6 @@ private:
     boost::optional<ColumnID> _beginColID;
     boost::optional<ColumnID> _lastColID;
 
-    QN_JSON_ORDER(0, 2, 1, 3)
     BOOST_DESCRIBE_CLASS(HeaderRowsCols, (), (), (), (_beginRowID, _lastRowID, _beginColID, _lastColID))
 };
 

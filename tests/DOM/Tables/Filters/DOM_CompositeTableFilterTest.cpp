@@ -29,18 +29,28 @@ TEST(DOM_CompositeTableFilter, HasTheTypeOfNumberZeroAndNoFiltersByDefault)
     expectText(CompositeTableFilter(), R"({"value0":{},"_type":0,"_filters":[]})");
 }
 
+std::string makeLeafData(const std::string& column)
+{
+    return R"({"value0":{"value0":{},"_columnIndex":{"_value":)" + column + R"(}},"_operator":0})";
+}
+
 TEST(DOM_CompositeTableFilter, KeepsTheNestingOfItsFilters)
 {
-    const std::string leaf = R"({"value0":{"value0":{},"_columnIndex":{"_value":)";
-    expectInFamily<TableFilter>(
-        makeFilter(), "QN::DOM::CompositeTableFilter",
-        R"({"value0":{},"_type":1,"_filters":[)" +
-            makePolymorphicJson("QN::DOM::NullaryConditionTableFilter", leaf + R"(1}},"_operator":0})", 2) + "," +
-            makeLaterPolymorphicJson(R"({"value0":{},"_type":0,"_filters":[)" +
-                                         makeLaterPolymorphicJson(leaf + R"(2}},"_operator":0})", 2) +
-                                         R"(,{"polymorphic_id":0}]})",
-                                     1) +
-            "]}");
+    expectText(makeFilter(), R"({"value0":{},"_type":1,"_filters":[)" +
+                                 makePolymorphicJson("QN::DOM::NullaryConditionTableFilter", makeLeafData("1")) + "," +
+                                 makePolymorphicJson("QN::DOM::CompositeTableFilter",
+                                                     R"({"value0":{},"_type":0,"_filters":[)" +
+                                                         makeLaterPolymorphicJson(makeLeafData("2")) +
+                                                         R"(,{"polymorphic_id":0}]})",
+                                                     2) +
+                                 "]}");
+    expectCopiesAndMoves(makeFilter());
+}
+
+TEST(DOM_CompositeTableFilter, IsOneOfItsFamily)
+{
+    expectInFamily<TableFilter>(CompositeTableFilter(CompositeTableFilterType::Or), "QN::DOM::CompositeTableFilter",
+                                R"({"value0":{},"_type":1,"_filters":[]})");
 }
 
 TEST(DOM_CompositeTableFilter, SharesNoFilterWithItsCopy)
