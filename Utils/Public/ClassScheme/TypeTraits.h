@@ -3,6 +3,7 @@
 #include <boost/container/container_fwd.hpp>
 #include <boost/optional/optional_fwd.hpp>
 #include <boost/smart_ptr/intrusive_ptr.hpp>
+#include <boost/unordered/unordered_flat_map_fwd.hpp>
 #include <boost/unordered/unordered_map_fwd.hpp>
 #include <boost/variant/variant_fwd.hpp>
 
@@ -56,7 +57,8 @@ template <class T>
 concept IsVector = InstanceOf<T, std::vector> || InstanceOf<T, boost::container::vector>;
 
 template <class T>
-concept IsHashMap = InstanceOf<T, boost::unordered_map> || InstanceOf<T, std::unordered_map>;
+concept IsHashMap = InstanceOf<T, boost::unordered_map> || InstanceOf<T, boost::unordered_flat_map> ||
+                    InstanceOf<T, std::unordered_map>;
 
 template <class T>
 concept IsMap = requires(T map) {
