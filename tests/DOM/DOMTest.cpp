@@ -9,7 +9,7 @@
 #include <sstream>
 #include <string>
 
-namespace QN::DOM {
+namespace QN::DOM::DOMTest {
 namespace {
 
 /// What only the sources of the library include.
@@ -58,4 +58,4 @@ TEST(DOM, IncludesEachPublicHeader)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::DOMTest

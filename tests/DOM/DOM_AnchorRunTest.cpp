@@ -6,7 +6,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::AnchorRunTest {
 namespace {
 
 using namespace QN::Test;
@@ -45,4 +45,4 @@ TEST(DOM_AnchorRun, Persists)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::AnchorRunTest

@@ -13,7 +13,7 @@
 #include "DOM/TextSamples.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::BlockTest {
 namespace {
 
 using namespace QN::Test;
@@ -132,4 +132,4 @@ TEST(DOM_Block, ANameOfAnotherFamilyIsRefused)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::BlockTest

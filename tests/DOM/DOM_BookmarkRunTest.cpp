@@ -6,7 +6,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::BookmarkRunTest {
 namespace {
 
 using namespace QN::Test;
@@ -51,4 +51,4 @@ TEST(DOM_BookmarkRun, Persists)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::BookmarkRunTest

@@ -6,7 +6,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::BreakRunTest {
 namespace {
 
 using namespace QN::Test;
@@ -52,4 +52,4 @@ TEST(DOM_BreakRun, PersistsAnyType)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::BreakRunTest

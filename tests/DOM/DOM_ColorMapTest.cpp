@@ -5,7 +5,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ColorMapTest {
 
 using namespace Test;
 
@@ -87,4 +87,4 @@ TEST(ColorMapTest, IsCopiedAndMoved)
     static_assert(!Ordered<ColorMap>);
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::ColorMapTest

@@ -6,7 +6,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ColorSchemeTest {
 
 using namespace Test;
 
@@ -111,4 +111,4 @@ TEST(ColorSchemeTest, IsCopiedAndMoved)
     static_assert(!Ordered<ColorScheme>);
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::ColorSchemeTest

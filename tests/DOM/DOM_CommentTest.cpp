@@ -7,7 +7,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::CommentTest {
 namespace {
 
 using namespace QN::Test;
@@ -111,4 +111,4 @@ TEST(DOM_Comment, IsFoundInADocumentByItsIdentity)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::CommentTest

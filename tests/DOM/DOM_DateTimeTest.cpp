@@ -5,7 +5,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::DateTimeTest {
 namespace {
 
 using namespace QN::Test;
@@ -68,4 +68,4 @@ TEST(DOM_DateTime, APartBeyondItsTypeIsRefused)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::DateTimeTest

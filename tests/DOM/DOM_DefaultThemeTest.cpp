@@ -12,7 +12,7 @@
 #include "DOM/Properties/PaintSamples.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::DefaultThemeTest {
 
 using namespace Test;
 
@@ -209,4 +209,4 @@ TEST(DefaultThemeTest, Persists)
     expectOrderDoesNotMatter(*document.getTheme());
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::DefaultThemeTest

@@ -5,7 +5,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::DocumentPropertiesTest {
 namespace {
 
 using namespace QN::Test;
@@ -62,4 +62,4 @@ TEST(DOM_DocumentProperties, Persist)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::DocumentPropertiesTest

@@ -18,7 +18,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::DocumentTest {
 namespace {
 
 using namespace QN::Test;
@@ -384,4 +384,4 @@ TEST(DOM_DocumentDeathTest, ReadingANullBlockFailsTheContract)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::DocumentTest

@@ -7,7 +7,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::DrawingRunTest {
 namespace {
 
 using namespace QN::Test;
@@ -72,4 +72,4 @@ TEST(DOM_DrawingRun, Persists)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::DrawingRunTest

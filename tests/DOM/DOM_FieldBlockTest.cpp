@@ -9,7 +9,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::FieldBlockTest {
 namespace {
 
 using namespace QN::Test;
@@ -160,4 +160,4 @@ TEST(DOM_FieldBlock, CopiesAndMoves)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::FieldBlockTest

@@ -9,7 +9,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::FieldRunTest {
 namespace {
 
 using namespace QN::Test;
@@ -134,4 +134,4 @@ TEST(DOM_FieldRun, CopiesAndMoves)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::FieldRunTest

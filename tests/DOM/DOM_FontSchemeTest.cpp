@@ -5,7 +5,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::FontSchemeTest {
 
 using namespace Test;
 
@@ -51,4 +51,4 @@ TEST(FontSchemeTest, IsCopiedAndMoved)
     static_assert(!Ordered<FontScheme>);
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::FontSchemeTest

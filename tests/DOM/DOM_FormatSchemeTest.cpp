@@ -8,7 +8,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::FormatSchemeTest {
 
 using namespace Test;
 
@@ -126,4 +126,4 @@ TEST(FormatSchemeTest, HasNoOrder)
     static_assert(!Ordered<FormatScheme>);
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::FormatSchemeTest

@@ -6,7 +6,7 @@
 #include "Support/Randomize.h"
 #include "Support/StatedStops.h"
 
-namespace QN::Test {
+namespace QN::Test::GeneratedDocumentsTest {
 namespace {
 
 constexpr std::uint64_t Documents = 10000;
@@ -126,4 +126,4 @@ TEST(GeneratedDocumentsTest, WithAByteChangedEndInADocumentOrAnException)
 }
 
 } // namespace
-} // namespace QN::Test
+} // namespace QN::Test::GeneratedDocumentsTest

@@ -12,7 +12,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::HeaderFooterPairTest {
 
 using namespace Test;
 
@@ -228,4 +228,4 @@ TEST(HeaderFooterPairTest, AMissingTextFromAFileStaysAndIsCopiedComparedAndSaved
     EXPECT_NE(pair, HeaderFooterPair(SomeUUID));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::HeaderFooterPairTest

@@ -11,7 +11,7 @@
 #include "DOM/DOM_HeaderFooterPair.h"
 #include "DOM/Properties/DOM_SectionProps.h"
 
-namespace QN::DOM {
+namespace QN::DOM::HeaderFooterUtilsTest {
 
 namespace {
 
@@ -202,4 +202,4 @@ TEST(GetLeadingHeaderFooterTest, TheNextPairNeedNotExist)
     EXPECT_EQ(getLeading('A', {"AX"}), 'A');
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::HeaderFooterUtilsTest

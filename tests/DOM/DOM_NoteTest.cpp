@@ -7,7 +7,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::NoteTest {
 namespace {
 
 using namespace QN::Test;
@@ -102,4 +102,4 @@ TEST(DOM_Note, IsFoundInADocumentByItsIdentity)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::NoteTest

@@ -10,7 +10,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::NumListMarkerTest {
 
 using namespace Test;
 
@@ -61,4 +61,4 @@ TEST(NumListMarkerTest, EachMemberTakesPartInEqualityAndThePictureByContent)
     EXPECT_NE(NumListMarker(), with<NumListMarker>([](NumListMarker& m) { m.setStartIndex(0UL); }));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::NumListMarkerTest

@@ -10,7 +10,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::NumberedListTest {
 
 using namespace Test;
 
@@ -95,4 +95,4 @@ TEST(NumberedListTest, IdentityLevelsAndNameTakePartInEquality)
     EXPECT_NE(makeList(), changed([](NumberedList& list) { list.getNumberingLevels()[1] = makeLevel(1); }));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::NumberedListTest

@@ -10,7 +10,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::NumberingLevelTest {
 
 using namespace Test;
 
@@ -67,4 +67,4 @@ TEST(NumberingLevelTest, EqualityLooksThroughMarkerAndStyle)
     EXPECT_NE(makeLevel("a", 1.0F), NumberingLevel());
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::NumberingLevelTest

@@ -5,7 +5,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::PageReferenceInfoTest {
 namespace {
 
 using namespace QN::Test;
@@ -26,4 +26,4 @@ TEST(DOM_PageReferenceInfo, Persists)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::PageReferenceInfoTest

@@ -5,7 +5,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::PagesCountInfoTest {
 namespace {
 
 using namespace QN::Test;
@@ -35,4 +35,4 @@ TEST(DOM_PagesCountInfo, PersistsAnyFormat)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::PagesCountInfoTest

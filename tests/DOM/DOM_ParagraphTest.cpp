@@ -6,7 +6,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ParagraphTest {
 namespace {
 
 using namespace QN::Test;
@@ -213,4 +213,4 @@ TEST(DOM_ParagraphDeathTest, ReadingANullRunFailsTheContract)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::ParagraphTest

@@ -9,7 +9,7 @@
 #include "DOM/PredefinedStyles/DOM_PredefinedTextStylesUtils.h"
 #include "DOM/Properties/DOM_NamedTextStyle.h"
 
-namespace QN::DOM {
+namespace QN::DOM::PredefinedEntitiesTest {
 
 TEST(PredefinedEntitiesTest, ANewDocumentReceivesTheListsAndTheTextStyles)
 {
@@ -38,4 +38,4 @@ TEST(PredefinedEntitiesTest, AppendingAgainChangesNothing)
     EXPECT_TRUE(document == before);
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::PredefinedEntitiesTest

@@ -12,7 +12,7 @@
 #include "DOM/Properties/StyleSamples.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::PredefinedNumListsTest {
 
 using namespace Test;
 
@@ -241,4 +241,4 @@ TEST(PredefinedNumListsTest, EveryListPersists)
     }
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::PredefinedNumListsTest

@@ -9,7 +9,7 @@
 #include "DOM/TextSamples.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::RunTest {
 namespace {
 
 using namespace QN::Test;
@@ -177,4 +177,4 @@ TEST(DOM_Run, ASharedStyleIsWrittenAtItsFirstRun)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::RunTest

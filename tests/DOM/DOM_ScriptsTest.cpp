@@ -5,7 +5,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ScriptsTest {
 namespace {
 
 using namespace QN::Test;
@@ -83,4 +83,4 @@ TEST(DOM_Scripts, Persist)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::ScriptsTest

@@ -6,7 +6,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::SectionTagTest {
 namespace {
 
 using namespace QN::Test;
@@ -59,4 +59,4 @@ TEST(DOM_SectionTag, Persists)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::SectionTagTest

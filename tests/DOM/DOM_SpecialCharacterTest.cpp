@@ -4,7 +4,7 @@
 
 #include "Utils/Public/UTF8.h"
 
-namespace QN::DOM {
+namespace QN::DOM::SpecialCharacterTest {
 namespace {
 
 TEST(DOM_SpecialCharacter, StandsInThePrivateUseArea)
@@ -29,4 +29,4 @@ TEST(DOM_SpecialCharacter, ANumberThatIsNoCodePointThrows)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::SpecialCharacterTest

@@ -9,7 +9,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TableOfContentsInfoTest {
 namespace {
 
 using namespace QN::Test;
@@ -135,4 +135,4 @@ TEST(DOM_TableOfContentsInfo, StylesThatTheStoreLacksStandInTheDefaultWithANilId
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TableOfContentsInfoTest

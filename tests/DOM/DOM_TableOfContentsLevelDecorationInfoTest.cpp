@@ -6,7 +6,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TableOfContentsLevelDecorationInfoTest {
 namespace {
 
 using namespace QN::Test;
@@ -55,4 +55,4 @@ TEST(DOM_TableOfContentsLevelDecorationInfo, TheDefaultOfALevelLastsAsLongAsTheP
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TableOfContentsLevelDecorationInfoTest

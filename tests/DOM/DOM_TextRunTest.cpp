@@ -6,7 +6,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TextRunTest {
 namespace {
 
 using namespace QN::Test;
@@ -77,4 +77,4 @@ TEST(DOM_TextRun, Persists)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TextRunTest

@@ -7,7 +7,7 @@
 #include "Support/RoundTrip.h"
 #include "Utils/Public/Opt/OptUtils.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TextWithTombstonesTest {
 namespace {
 
 using namespace QN::Test;
@@ -137,4 +137,4 @@ TEST(DOM_TextWithTombstonesDeathTest, ReadingANullBlockFailsTheContract)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TextWithTombstonesTest

@@ -6,7 +6,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ThemeTest {
 
 using namespace Test;
 
@@ -73,4 +73,4 @@ TEST(ThemeTest, ACopySharesNothing)
     static_assert(!Ordered<Theme>);
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::ThemeTest

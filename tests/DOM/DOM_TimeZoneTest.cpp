@@ -5,7 +5,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TimeZoneTest {
 namespace {
 
 using namespace QN::Test;
@@ -36,4 +36,4 @@ TEST(DOM_TimeZone, PersistsAnyOffsetOf32Bits)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TimeZoneTest

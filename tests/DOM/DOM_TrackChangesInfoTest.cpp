@@ -5,7 +5,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TrackChangesInfoTest {
 namespace {
 
 using namespace QN::Test;
@@ -70,4 +70,4 @@ TEST(DOM_TrackChangesInfo, Persists)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TrackChangesInfoTest

@@ -4,7 +4,7 @@
 
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TrackChangesTypeTest {
 namespace {
 
 using namespace QN::Test;
@@ -17,4 +17,4 @@ TEST(DOM_TrackChangesType, PersistsAsItsNumberNamedOrNot)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TrackChangesTypeTest

@@ -10,7 +10,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TrackedObjectTest {
 namespace {
 
 using namespace QN::Test;
@@ -241,4 +241,4 @@ TEST(DOM_TrackedObject, ATrackedParentHoldsTheRecordAndTheStyle)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TrackedObjectTest

@@ -12,7 +12,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::UUIDContainerTest {
 namespace {
 
 using namespace QN::Test;
@@ -193,4 +193,4 @@ TEST(DOM_UUIDContainerDeathTest, InsertingAnIdentityTwiceFailsTheContract)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::UUIDContainerTest

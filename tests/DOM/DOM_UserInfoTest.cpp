@@ -8,7 +8,7 @@
 #include "Support/RoundTrip.h"
 #include "Utils/Public/PaletteColor.h"
 
-namespace QN::DOM {
+namespace QN::DOM::UserInfoTest {
 namespace {
 
 using namespace QN::Test;
@@ -122,4 +122,4 @@ TEST(DOM_UserInfo, Persists)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::UserInfoTest

@@ -14,6 +14,7 @@
 #include "DOM/DOM_TabRun.h"
 #include "DOM/DOM_TextRun.h"
 #include "DOM/Properties/DOM_SharedObjectFactory.h"
+#include "Support/Clones.h"
 
 /// Small pieces of text for the tests of what holds them.
 
@@ -72,22 +73,6 @@ inline std::vector<std::unique_ptr<DOM::Run>> makeOneRunOfEachKind()
     runs.push_back(std::make_unique<DOM::FieldRun>());
     runs.push_back(std::make_unique<DOM::AnchorRun>());
     return runs;
-}
-
-template <class Root>
-std::unique_ptr<Root> cloneUnique(const Root& object)
-{
-    std::unique_ptr<Root> copy;
-    object.cloneTo(copy);
-    return copy;
-}
-
-template <class Root>
-std::shared_ptr<Root> cloneShared(const Root& object)
-{
-    std::shared_ptr<Root> copy;
-    object.cloneTo(copy);
-    return copy;
 }
 
 /// The JSON texts of a null handle and of an absent optional.

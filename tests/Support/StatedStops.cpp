@@ -45,9 +45,9 @@ bool isReversedRange(const Value& object)
 template <class Check>
 bool anyValue(std::string_view json, const Check& check)
 {
-    constexpr unsigned ParseFlags = rapidjson::kParseIterativeFlag | rapidjson::kParseNanAndInfFlag;
+    constexpr unsigned Flags = rapidjson::kParseIterativeFlag | rapidjson::kParseNanAndInfFlag;
     rapidjson::Document document;
-    document.Parse<ParseFlags>(json.data(), json.size());
+    document.Parse<Flags>(json.data(), json.size());
     if (document.HasParseError()) {
         return false;
     }

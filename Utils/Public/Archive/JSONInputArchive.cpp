@@ -15,21 +15,36 @@
 
 namespace cereal {
 
-namespace {
+namespace detail {
 
 /// A dynamic type that occurred in this text, with its way to each base that a pointer to it was read for. Entries and
 /// chains stay where they are while the archive lives.
 struct TypeEntry {
     std::string name;
-    const detail::InputBinding* binding = nullptr;
-    std::forward_list<std::pair<const std::type_info*, detail::CasterChain>> chains;
+    const InputBinding* binding = nullptr;
+    std::forward_list<std::pair<const std::type_info*, CasterChain>> chains;
 };
+
+/// A walk over the members of an object or the elements of an array.
+struct Frame {
+    const TapeNode* begin;
+    const TapeNode* end;
+    const TapeNode* next;
+    std::uint32_t unnamed;
+    bool isArray;
+};
+
+} // namespace detail
+
+namespace {
 
 constexpr std::uint32_t FirstOccurrence = 0x80000000U;
 constexpr std::uint32_t IsStaticType = 0x40000000U;
 constexpr std::uint32_t IdMask = ~FirstOccurrence;
 
+using detail::Frame;
 using detail::TapeNode;
+using detail::TypeEntry;
 
 /// The whole rest of a stream with a closing NUL.
 std::string readWhole(std::istream& stream)
@@ -56,15 +71,6 @@ std::string readWhole(std::istream& stream)
     text.resize(size);
     return text;
 }
-
-/// A walk over the members of an object or the elements of an array.
-struct Frame {
-    const TapeNode* begin;
-    const TapeNode* end;
-    const TapeNode* next;
-    std::uint32_t unnamed;
-    bool isArray;
-};
 
 /// Raises what a failed check of the parser's own values raises.
 void check(bool condition, const char* text)

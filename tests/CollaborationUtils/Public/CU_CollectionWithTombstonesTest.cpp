@@ -9,7 +9,7 @@
 
 #include "Support/RoundTrip.h"
 
-namespace QN::CollaborationUtils {
+namespace QN::CollaborationUtils::CU_CollectionWithTombstonesTest {
 
 struct Word {
     std::string _text;
@@ -110,4 +110,4 @@ TEST(CU_CollectionWithTombstones, ANullElementIsEqualToANullElementOnly)
 }
 
 } // namespace
-} // namespace QN::CollaborationUtils
+} // namespace QN::CollaborationUtils::CU_CollectionWithTombstonesTest

@@ -4,7 +4,7 @@
 
 #include "Support/RoundTrip.h"
 
-namespace QN::CollaborationUtils {
+namespace QN::CollaborationUtils::CU_IndexRangeTest {
 namespace {
 
 using namespace QN::Test;
@@ -57,4 +57,4 @@ TEST(CU_IndexRangeDeathTest, AnEmptyOrReversedRangeInAFileStopsTheProcess)
 }
 
 } // namespace
-} // namespace QN::CollaborationUtils
+} // namespace QN::CollaborationUtils::CU_IndexRangeTest

@@ -6,7 +6,7 @@
 
 #include "Support/RoundTrip.h"
 
-namespace QN::CollaborationUtils {
+namespace QN::CollaborationUtils::CU_IndicesTest {
 namespace {
 
 using namespace QN::Test;
@@ -26,4 +26,4 @@ TEST(CU_Indices, APositionIsWrittenAsAnObjectOfItsValue)
 }
 
 } // namespace
-} // namespace QN::CollaborationUtils
+} // namespace QN::CollaborationUtils::CU_IndicesTest

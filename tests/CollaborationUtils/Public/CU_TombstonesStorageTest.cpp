@@ -8,7 +8,7 @@
 
 #include "Support/RoundTrip.h"
 
-namespace QN::CollaborationUtils {
+namespace QN::CollaborationUtils::CU_TombstonesStorageTest {
 namespace {
 
 using namespace QN::Test;
@@ -356,4 +356,4 @@ TEST(CU_TombstonesStorage, AgreesWithAModelAfterEachOfManyRandomOperations)
 }
 
 } // namespace
-} // namespace QN::CollaborationUtils
+} // namespace QN::CollaborationUtils::CU_TombstonesStorageTest

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace QN::CollaborationUtils {
+namespace QN::CollaborationUtils::CU_WithTombstonesTest {
 namespace {
 
 TEST(CU_WithTombstones, IgnoresTombstonesWithTheValueZero)
@@ -12,4 +12,4 @@ TEST(CU_WithTombstones, IgnoresTombstonesWithTheValueZero)
 }
 
 } // namespace
-} // namespace QN::CollaborationUtils
+} // namespace QN::CollaborationUtils::CU_WithTombstonesTest

@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/KindSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::Area3DChartTest {
 namespace {
 
 using namespace Test;
@@ -29,4 +29,4 @@ TEST(Area3DChart, KeepsItsGapDepth)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::Area3DChartTest

@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/KindSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::AreaChartCommonTest {
 namespace {
 
 using namespace Test;
@@ -31,4 +31,4 @@ TEST(AreaChartCommon, KeepsGroupingAndDropLines)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::AreaChartCommonTest

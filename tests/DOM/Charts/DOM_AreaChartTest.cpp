@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/KindSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::AreaChartTest {
 namespace {
 
 using namespace Test;
@@ -18,4 +18,4 @@ TEST(AreaChart, HasTheDefaultsOfItsKind)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::AreaChartTest

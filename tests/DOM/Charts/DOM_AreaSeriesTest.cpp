@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/SeriesSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::AreaSeriesTest {
 namespace {
 
 using namespace Test;
@@ -29,4 +29,4 @@ TEST(AreaSeries, WritesBackTheSmoothingThatNoAccessorReaches)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::AreaSeriesTest

@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/KindSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::Bar3DChartTest {
 namespace {
 
 using namespace Test;
@@ -35,4 +35,4 @@ TEST(Bar3DChart, KeepsGapDepthAndShape)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::Bar3DChartTest

@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/KindSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::BarChartCommonTest {
 namespace {
 
 using namespace Test;
@@ -38,4 +38,4 @@ TEST(BarChartCommon, KeepsDirectionGroupingAndGapWidth)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::BarChartCommonTest

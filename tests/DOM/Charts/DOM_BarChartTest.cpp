@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/KindSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::BarChartTest {
 namespace {
 
 using namespace Test;
@@ -46,4 +46,4 @@ TEST(BarChart, RefusesAnOverlapBeyondOneByte)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::BarChartTest

@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/SeriesSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::BarSeriesTest {
 namespace {
 
 using namespace Test;
@@ -33,4 +33,4 @@ TEST(BarSeries, InversionSetToFalseIsSet)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::BarSeriesTest

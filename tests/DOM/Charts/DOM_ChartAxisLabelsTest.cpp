@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/ChartSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ChartAxisLabelsTest {
 namespace {
 
 using namespace Test;
@@ -24,4 +24,4 @@ TEST(ChartAxisLabels, KeepTheirPosition)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::ChartAxisLabelsTest

@@ -6,7 +6,7 @@
 
 #include "DOM/Charts/AxisSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ChartAxisTest {
 namespace {
 
 using namespace Test;
@@ -159,4 +159,4 @@ TEST(ChartAxis, CopiesLinesAndTitle)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::ChartAxisTest

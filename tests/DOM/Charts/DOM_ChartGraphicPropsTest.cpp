@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/ChartSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ChartGraphicPropsTest {
 namespace {
 
 using namespace Test;
@@ -56,4 +56,4 @@ TEST(ChartGraphicProps, OfTwoNullsArePresentAndDifferFromAbsence)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::ChartGraphicPropsTest

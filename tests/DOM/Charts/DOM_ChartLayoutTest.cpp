@@ -5,7 +5,7 @@
 
 #include "DOM/Charts/ChartSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ChartLayoutTest {
 namespace {
 
 using namespace Test;
@@ -72,4 +72,4 @@ TEST(ChartLayout, IsUnequalAsSoonAsOneMemberDiffers)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::ChartLayoutTest

@@ -6,7 +6,7 @@
 
 #include "DOM/Charts/ChartSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ChartLegendEntryTest {
 namespace {
 
 using namespace Test;
@@ -55,4 +55,4 @@ TEST(ChartLegendEntry, SharedRunPropertiesStayOneObjectInAFile)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::ChartLegendEntryTest

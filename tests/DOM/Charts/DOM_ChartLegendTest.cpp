@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/ChartSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ChartLegendTest {
 namespace {
 
 using namespace Test;
@@ -78,4 +78,4 @@ TEST(ChartLegend, CopiesItsEntriesWhichShareTheirRunProperties)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::ChartLegendTest

@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/ChartSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ChartLinesTest {
 namespace {
 
 using namespace Test;
@@ -29,4 +29,4 @@ TEST(ChartLines, KeepTheirPaint)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::ChartLinesTest

@@ -5,7 +5,7 @@
 
 #include "DOM/Charts/ChartSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ChartMarkerTest {
 namespace {
 
 using namespace Test;
@@ -39,4 +39,4 @@ TEST(ChartMarker, KeepsEveryMember)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::ChartMarkerTest

@@ -9,7 +9,7 @@
 #include "DOM/FormulaSyntaxTree/SmallStack.h"
 #include "DOM/Shapes/DOM_Picture.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ChartSpaceTest {
 namespace {
 
 using namespace Test;
@@ -160,4 +160,4 @@ TEST(ChartSpace, NestedInItsOwnTextsToTheLimitOfAFileIsDestroyedOnASmallStack)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::ChartSpaceTest

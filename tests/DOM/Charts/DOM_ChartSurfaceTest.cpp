@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/ChartSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ChartSurfaceTest {
 namespace {
 
 using namespace Test;
@@ -29,4 +29,4 @@ TEST(ChartSurface, KeepsItsPaint)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::ChartSurfaceTest

@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/KindSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ChartTest {
 namespace {
 
 using namespace Test;
@@ -189,4 +189,4 @@ TEST(ChartDeathTest, ReadingANullSeriesFailsTheContract)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::ChartTest

@@ -7,7 +7,7 @@
 #include "DOM/DOM_Paragraph.h"
 #include "DOM/FormulaSyntaxTree/DOM_Number.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ChartTitleTest {
 namespace {
 
 using namespace Test;
@@ -112,4 +112,4 @@ TEST(ChartTitle, IsUnequalAsSoonAsOneMemberDiffers)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::ChartTitleTest

@@ -7,7 +7,7 @@
 #include "DOM/Charts/ChartSamples.h"
 #include "DOM/DOM_Paragraph.h"
 
-namespace QN::DOM {
+namespace QN::DOM::DataLabelTest {
 namespace {
 
 using namespace Test;
@@ -76,4 +76,4 @@ TEST(DataLabel, CopiesItsText)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::DataLabelTest

@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/ChartSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::DataPointTest {
 namespace {
 
 using namespace Test;
@@ -32,4 +32,4 @@ TEST(DataPoint, KeepsEveryMember)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::DataPointTest

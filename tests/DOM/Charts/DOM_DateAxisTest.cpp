@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/AxisSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::DateAxisTest {
 namespace {
 
 using namespace Test;
@@ -52,4 +52,4 @@ TEST(DateAxis, KeepsItsUnits)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::DateAxisTest

@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/ChartSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::GroupDataLabelTest {
 namespace {
 
 using namespace Test;
@@ -38,4 +38,4 @@ TEST(GroupDataLabel, KeepsEveryMember)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::GroupDataLabelTest

@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/KindSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::Line3DChartTest {
 namespace {
 
 using namespace Test;
@@ -29,4 +29,4 @@ TEST(Line3DChart, KeepsItsGapDepth)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::Line3DChartTest

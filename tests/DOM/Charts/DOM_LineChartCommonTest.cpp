@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/KindSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::LineChartCommonTest {
 namespace {
 
 using namespace Test;
@@ -31,4 +31,4 @@ TEST(LineChartCommon, KeepsGroupingAndDropLines)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::LineChartCommonTest

@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/KindSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::LineChartTest {
 namespace {
 
 using namespace Test;
@@ -29,4 +29,4 @@ TEST(LineChart, KeepsItsInterpolation)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::LineChartTest

@@ -5,7 +5,7 @@
 
 #include "DOM/Charts/SeriesSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::LineSeriesTest {
 namespace {
 
 using namespace Test;
@@ -40,4 +40,4 @@ TEST(LineSeries, KeepsInterpolationAndMarker)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::LineSeriesTest

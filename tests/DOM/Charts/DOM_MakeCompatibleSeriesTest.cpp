@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/KindSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::MakeCompatibleSeriesTest {
 namespace {
 
 using namespace Test;
@@ -39,4 +39,4 @@ TEST(MakeCompatibleSeriesDeathTest, AVisitWithoutAResultFailsTheContract)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::MakeCompatibleSeriesTest

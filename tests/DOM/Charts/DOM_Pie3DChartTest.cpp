@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/KindSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::Pie3DChartTest {
 namespace {
 
 using namespace Test;
@@ -17,4 +17,4 @@ TEST(Pie3DChart, HasTheDefaultsOfItsKind)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::Pie3DChartTest

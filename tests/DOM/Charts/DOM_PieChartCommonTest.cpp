@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/KindSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::PieChartCommonTest {
 namespace {
 
 using namespace Test;
@@ -16,4 +16,4 @@ TEST(PieChartCommon, AddsNothingToAChart)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::PieChartCommonTest

@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/KindSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::PieChartTest {
 namespace {
 
 using namespace Test;
@@ -28,4 +28,4 @@ TEST(PieChart, KeepsTheAngleOfItsFirstSlice)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::PieChartTest

@@ -5,7 +5,7 @@
 
 #include "DOM/Charts/SeriesSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::PieSeriesTest {
 namespace {
 
 using namespace Test;
@@ -28,4 +28,4 @@ TEST(PieSeries, KeepsItsExplosion)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::PieSeriesTest

@@ -5,7 +5,7 @@
 #include "DOM/Charts/AxisSamples.h"
 #include "DOM/Charts/KindSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::PlotAreaTest {
 namespace {
 
 using namespace Test;
@@ -99,4 +99,4 @@ TEST(PlotArea, AcceptsReferencesToAxesThatAreNotThere)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::PlotAreaTest

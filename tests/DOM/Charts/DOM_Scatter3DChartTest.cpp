@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/KindSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::Scatter3DChartTest {
 namespace {
 
 using namespace Test;
@@ -17,4 +17,4 @@ TEST(Scatter3DChart, HasTheDefaultsOfItsKind)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::Scatter3DChartTest

@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/KindSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ScatterChartCommonTest {
 namespace {
 
 using namespace Test;
@@ -33,4 +33,4 @@ TEST(ScatterChartCommon, KeepsTypeAndInterpolationOfBothCharts)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::ScatterChartCommonTest

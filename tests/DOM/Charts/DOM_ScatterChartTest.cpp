@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/KindSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ScatterChartTest {
 namespace {
 
 using namespace Test;
@@ -17,4 +17,4 @@ TEST(ScatterChart, HasTheDefaultsOfItsKind)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::ScatterChartTest

@@ -5,7 +5,7 @@
 
 #include "DOM/Charts/SeriesSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ScatterSeriesTest {
 namespace {
 
 using namespace Test;
@@ -40,4 +40,4 @@ TEST(ScatterSeries, KeepsInterpolationAndMarker)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::ScatterSeriesTest

@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/AxisSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::SeriesAxisTest {
 namespace {
 
 using namespace Test;
@@ -15,4 +15,4 @@ TEST(SeriesAxis, AddsNothingToAnAxis)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::SeriesAxisTest

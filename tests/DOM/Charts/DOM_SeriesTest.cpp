@@ -6,7 +6,7 @@
 
 #include "DOM/Charts/SeriesSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::SeriesTest {
 namespace {
 
 using namespace Test;
@@ -159,4 +159,4 @@ TEST(Series, TakingOverItsOwnBaseChangesNothing)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::SeriesTest

@@ -4,7 +4,7 @@
 
 #include "DOM/Charts/AxisSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ValueAxisTest {
 namespace {
 
 using namespace Test;
@@ -34,4 +34,4 @@ TEST(ValueAxis, KeepsItsUnits)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::ValueAxisTest

@@ -4,7 +4,7 @@
 
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::ArgumentsListTest {
 
 TEST(ArgumentsListTest, IsEmptyByDefaultAndKeepsItsArgumentsInOrder)
 {
@@ -55,4 +55,4 @@ TEST(ArgumentsListTest, CanBeReplacedByAListInsideIt)
     EXPECT_EQ(outer, ArgumentsList(args(number(1))));
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::ArgumentsListTest

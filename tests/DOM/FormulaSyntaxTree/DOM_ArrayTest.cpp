@@ -4,7 +4,7 @@
 
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::ArrayTest {
 
 namespace {
 
@@ -99,4 +99,4 @@ TEST(ArrayDeathTest, ACallWithoutArgumentsInsideStopsACopy)
     EXPECT_DEATH(clone(*array), R"(DOM_ExprTransformations\.cpp:[0-9]+: argsRange\.begin\(\) != end)");
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::ArrayTest

@@ -4,7 +4,7 @@
 
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::AxisTest {
 
 TEST(AxisTest, IsPositionZeroAndNotFixedByDefault)
 {
@@ -61,4 +61,4 @@ TEST(AxisTest, AnIdentifierReadsBackWithAlternativeOneAndTheSameFixing)
     }
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::AxisTest

@@ -6,7 +6,7 @@
 
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::BaseBinaryOpTest {
 
 TEST(BaseBinaryOpTest, IsTheBaseOfAllBinaryOperators)
 {
@@ -61,4 +61,4 @@ TEST(BaseBinaryOpDeathTest, ANullOperandStopsTheProcess)
     EXPECT_DEATH((Plus{ExprPtr(), ExprPtr()}), R"(_args\[0\])");
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::BaseBinaryOpTest

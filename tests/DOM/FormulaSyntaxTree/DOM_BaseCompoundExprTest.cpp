@@ -6,7 +6,7 @@
 
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::BaseCompoundExprTest {
 
 TEST(BaseCompoundExprTest, IsTheBaseOfWhatHasArguments)
 {
@@ -61,4 +61,4 @@ TEST(BaseCompoundExprDeathTest, ANodeWithoutArgumentsCannotBeCloned)
     EXPECT_DEATH(clone(ArgumentsList()), R"(argsRange\.begin\(\) != end)");
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::BaseCompoundExprTest

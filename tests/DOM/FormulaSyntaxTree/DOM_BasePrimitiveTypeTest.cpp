@@ -6,7 +6,7 @@
 
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::BasePrimitiveTypeTest {
 
 TEST(BasePrimitiveTypeTest, IsTheBaseOfWhatStandsForItself)
 {
@@ -25,4 +25,4 @@ TEST(BasePrimitiveTypeTest, PersistsAsItsEmptyBase)
     EXPECT_EQ(toJson(static_cast<const BasePrimitiveType&>(String("text"))), R"({"value0":{}})");
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::BasePrimitiveTypeTest

@@ -4,7 +4,7 @@
 
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::BaseReferenceExprTest {
 
 TEST(BaseReferenceExprTest, IsToTheSameDocumentByDefault)
 {
@@ -31,4 +31,4 @@ TEST(BaseReferenceExprTest, PersistsTheDocumentBehindItsEmptyBase)
               R"({"value0":{},"_docURL":"file:///other"})");
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::BaseReferenceExprTest

@@ -6,7 +6,7 @@
 
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::BaseUnaryOpTest {
 
 TEST(BaseUnaryOpTest, IsTheBaseOfAllUnaryOperators)
 {
@@ -46,4 +46,4 @@ TEST(BaseUnaryOpDeathTest, ANullOperandStopsTheProcess)
     EXPECT_DEATH(UnaryPlus{ExprPtr()}, R"(DOM_BaseUnaryOp\.cpp:[0-9]+: _args\[0\])");
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::BaseUnaryOpTest

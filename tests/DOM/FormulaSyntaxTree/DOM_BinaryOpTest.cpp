@@ -4,7 +4,7 @@
 
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::BinaryOpTest {
 
 template <class Operator>
 class BinaryOpTest : public testing::Test {
@@ -59,4 +59,4 @@ TEST(BinaryOpDeathTest, OtherCountsOfArgumentsStopTheProcess)
     EXPECT_DEATH(node.cloneWithArgs(args(number(1), nullptr)), R"(_args\[1\])");
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::BinaryOpTest

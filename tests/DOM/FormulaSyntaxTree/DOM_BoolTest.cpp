@@ -4,7 +4,7 @@
 
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::BoolTest {
 
 TEST(BoolTest, IsFalseByDefaultAndKeepsItsValue)
 {
@@ -20,4 +20,4 @@ TEST(BoolTest, PersistsItsValueBehindTheBases)
     expectCopiesAndMoves(Bool(true));
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::BoolTest

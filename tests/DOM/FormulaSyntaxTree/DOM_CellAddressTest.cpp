@@ -4,7 +4,7 @@
 
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::CellAddressTest {
 
 TEST(CellAddressTest, IsTheFirstCellByDefault)
 {
@@ -52,4 +52,4 @@ TEST(CellAddressTest, PersistsTheColumnBeforeTheRow)
     expectCopiesAndMoves(cell({ColumnIndex(1), false}, {RowIndex(2), false}));
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::CellAddressTest

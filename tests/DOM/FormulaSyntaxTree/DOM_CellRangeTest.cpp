@@ -4,7 +4,7 @@
 
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::CellRangeTest {
 
 namespace {
 
@@ -146,4 +146,4 @@ TEST(CellRangeTest, PersistsBothSheetsTheColumnsAndTheRows)
     expectCopiesAndMoves(CellRange("doc", First, Second, SomeColumns, SomeRows));
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::CellRangeTest

@@ -4,7 +4,7 @@
 
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::EmptyTest {
 
 TEST(EmptyTest, HasNoMembersAndEqualsAnyOther)
 {
@@ -14,4 +14,4 @@ TEST(EmptyTest, HasNoMembersAndEqualsAnyOther)
     expectCopiesAndMoves(Empty());
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::EmptyTest

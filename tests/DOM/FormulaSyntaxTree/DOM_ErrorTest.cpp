@@ -4,7 +4,7 @@
 
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::ErrorTest {
 
 TEST(ErrorTest, IsNumberZeroByDefaultAndKeepsItsValue)
 {
@@ -20,4 +20,4 @@ TEST(ErrorTest, PersistsItsNumberWhateverItIs)
     expectCopiesAndMoves(Error(FormulaErrorType(3)));
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::ErrorTest

@@ -9,7 +9,7 @@
 
 /// Depth is data: trees of a million nodes on a stack of half a megabyte.
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::ExprDepthTest {
 
 namespace {
 
@@ -175,4 +175,4 @@ TEST(ExprDepthTest, AnExpressionCountsAsOneLevelAgainstTheNestingLimitHoweverDee
     EXPECT_TRUE(areDeeplyEqual(*loaded, *tree));
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::ExprDepthTest

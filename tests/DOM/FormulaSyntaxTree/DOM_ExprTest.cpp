@@ -8,7 +8,7 @@
 #include "DOM/FormulaSyntaxTree/RandomExpr.h"
 #include "Utils/Public/Archive/PolymorphicRegistry.h"
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::ExprTest {
 
 namespace {
 
@@ -321,4 +321,4 @@ TEST(ExprTest, RandomTreesCloneAndPersist)
     }
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::ExprTest

@@ -4,7 +4,7 @@
 
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::ExprTransformationsTest {
 
 namespace {
 
@@ -201,4 +201,4 @@ TEST(ExprTransformationsTest, TheDefaultsReturnTheirArguments)
     EXPECT_EQ(resolveURLByDefault(""), "");
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::ExprTransformationsTest

@@ -4,7 +4,7 @@
 
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::FormulaErrorTypeTest {
 
 TEST(FormulaErrorTypeTest, IsAPlainNumberInAFile)
 {
@@ -13,4 +13,4 @@ TEST(FormulaErrorTypeTest, IsAPlainNumberInAFile)
     EXPECT_EQ(FormulaErrorType(), FormulaErrorType(0));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::FormulaErrorTypeTest

@@ -4,7 +4,7 @@
 
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::FormulaFunctionTypeTest {
 
 TEST(FormulaFunctionTypeTest, IsAPlainNumberOfSixteenBitsInAFile)
 {
@@ -13,4 +13,4 @@ TEST(FormulaFunctionTypeTest, IsAPlainNumberOfSixteenBitsInAFile)
     EXPECT_EQ(QN::Test::fromJson<FormulaFunctionType>(R"({"object":65535})"), FormulaFunctionType(65535));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::FormulaFunctionTypeTest

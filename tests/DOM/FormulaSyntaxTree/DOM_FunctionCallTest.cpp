@@ -4,7 +4,7 @@
 
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::FunctionCallTest {
 
 namespace {
 
@@ -82,4 +82,4 @@ TEST(FunctionCallTest, CanBeReplacedByACallInsideIt)
     EXPECT_EQ(outer, FunctionCall(FormulaFunctionType(7), "INNER", args(number(1))));
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::FunctionCallTest

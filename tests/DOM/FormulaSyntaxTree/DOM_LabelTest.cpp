@@ -7,7 +7,7 @@
 
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::LabelTest {
 
 namespace {
 
@@ -68,4 +68,4 @@ TEST(LabelTest, CanKeyAHashMap)
     EXPECT_EQ(map.count(Label("Total", "doc", Sheet)), 0U);
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::LabelTest

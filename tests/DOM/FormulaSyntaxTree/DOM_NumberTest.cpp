@@ -7,7 +7,7 @@
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
 #include "DOM/Tables/Properties/CellFormatModel/DOM_CellFormat.h"
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::NumberTest {
 
 namespace {
 
@@ -84,4 +84,4 @@ TEST(NumberTest, AFormatThatSeveralNumbersShareStaysOneObject)
               static_cast<const Number&>(*plus.getArg2()).getFormat());
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::NumberTest

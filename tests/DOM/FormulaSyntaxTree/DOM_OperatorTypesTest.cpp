@@ -4,7 +4,7 @@
 
 #include <type_traits>
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::OperatorTypesTest {
 
 TEST(OperatorTypesTest, UnaryOperatorsHaveTheirNumbers)
 {
@@ -31,4 +31,4 @@ TEST(OperatorTypesTest, BinaryOperatorsHaveTheirNumbers)
     EXPECT_TRUE((std::is_same_v<Union, BinaryOp<BinaryOpType(13)>>));
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::OperatorTypesTest

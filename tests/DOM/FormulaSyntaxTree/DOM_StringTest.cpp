@@ -4,7 +4,7 @@
 
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::StringTest {
 
 TEST(StringTest, IsEmptyByDefaultAndKeepsItsText)
 {
@@ -22,4 +22,4 @@ TEST(StringTest, PersistsItsTextBehindTheBases)
     expectCopiesAndMoves(String("text"));
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::StringTest

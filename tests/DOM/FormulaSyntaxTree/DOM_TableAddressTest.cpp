@@ -4,7 +4,7 @@
 
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::TableAddressTest {
 
 TEST(TableAddressTest, IsAnEmptyNameByDefault)
 {
@@ -33,4 +33,4 @@ TEST(TableAddressTest, PersistsAsAVariantWithTheNameFirst)
               "Invalid 'which' selector when deserializing boost::variant");
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::TableAddressTest

@@ -4,7 +4,7 @@
 
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
 
-namespace QN::DOM::FormulaSyntaxTree {
+namespace QN::DOM::FormulaSyntaxTree::UnaryOpTest {
 
 template <class Operator>
 class UnaryOpTest : public testing::Test {
@@ -51,4 +51,4 @@ TEST(UnaryOpDeathTest, OtherCountsOfArgumentsStopTheProcess)
     EXPECT_DEATH(node.cloneWithArgs(args(nullptr)), R"(_args\[0\])");
 }
 
-} // namespace QN::DOM::FormulaSyntaxTree
+} // namespace QN::DOM::FormulaSyntaxTree::UnaryOpTest

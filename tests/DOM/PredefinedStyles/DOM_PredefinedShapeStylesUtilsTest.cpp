@@ -5,7 +5,7 @@
 #include "DOM/Properties/DOM_NamedShapeStyle.h"
 #include "DOM/Properties/DOM_Styles.h"
 
-namespace QN::DOM {
+namespace QN::DOM::PredefinedShapeStylesUtilsTest {
 
 TEST(PredefinedShapeStylesUtilsDeathTest, NoneOfTheFunctionsIsImplemented)
 {
@@ -23,4 +23,4 @@ TEST(PredefinedShapeStylesUtilsDeathTest, NoneOfTheFunctionsIsImplemented)
                  "void .*appendPredefinedShapeStyles\\(.*Styles ?&\\) is not implemented\n$");
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::PredefinedShapeStylesUtilsTest

@@ -4,7 +4,7 @@
 
 #include <type_traits>
 
-namespace QN::DOM {
+namespace QN::DOM::PredefinedStyleNameTest {
 
 TEST(PredefinedStyleNameTest, TheNumbersAreThoseOfFiles)
 {
@@ -22,4 +22,4 @@ TEST(PredefinedStyleNameTest, TheNumbersAreThoseOfFiles)
     EXPECT_EQ(static_cast<int>(PredefinedStyleName::Hyperlink), 25);
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::PredefinedStyleNameTest

@@ -9,7 +9,7 @@
 #include "DOM/Properties/DOM_NamedTextStyle.h"
 #include "DOM/Properties/StyleSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::PredefinedStylesUtilsTest {
 
 using namespace Test;
 
@@ -108,4 +108,4 @@ TEST(FindNamedStyleDeathTest, ThereIsNoTypeAboveTheLast)
                  "No named text style with such type\\.");
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::PredefinedStylesUtilsTest

@@ -5,7 +5,7 @@
 #include "DOM/Properties/DOM_NamedTableStyle.h"
 #include "DOM/Properties/DOM_Styles.h"
 
-namespace QN::DOM {
+namespace QN::DOM::PredefinedTableStylesUtilsTest {
 
 TEST(PredefinedTableStylesUtilsDeathTest, NoneOfTheFunctionsIsImplemented)
 {
@@ -23,4 +23,4 @@ TEST(PredefinedTableStylesUtilsDeathTest, NoneOfTheFunctionsIsImplemented)
                  "void .*appendPredefinedTableStyles\\(.*Styles ?&\\) is not implemented\n$");
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::PredefinedTableStylesUtilsTest

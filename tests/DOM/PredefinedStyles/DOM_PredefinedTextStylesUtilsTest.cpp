@@ -14,7 +14,7 @@
 #include "DOM/Properties/StyleSamples.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::PredefinedTextStylesUtilsTest {
 
 using namespace Test;
 
@@ -281,4 +281,4 @@ TEST(PredefinedTextStylesUtilsDeathTest, AStyleOfATypeWithAnotherUUIDIsAContract
     EXPECT_FALSE(getPredefinedTextStyleUUID(styles, PredefinedStyleName::Heading2));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::PredefinedTextStylesUtilsTest

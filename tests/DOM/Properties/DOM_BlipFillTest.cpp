@@ -6,7 +6,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::BlipFillTest {
 
 using namespace Test;
 
@@ -88,7 +88,7 @@ TEST(BlipFillTest, ACopyHasTheBytesInAHolderOfItsOwn)
 TEST(BlipFillTest, AClonedCopyHasTheBytesInAHolderOfItsOwn)
 {
     const BlipFill source = makeFill("bytes", BlipType::Tile);
-    const std::unique_ptr<Fill> unique = clone<Fill>(source);
+    const std::unique_ptr<Fill> unique = cloneUnique<Fill>(source);
     const std::shared_ptr<Fill> shared = cloneShared<Fill>(source);
     EXPECT_TRUE(areDeeplyEqual(*unique, source));
     EXPECT_TRUE(areDeeplyEqual(*shared, source));
@@ -133,4 +133,4 @@ TEST(BlipFillTest, IsCopiedAndMoved)
     expectCopiesAndMoves(BlipFill());
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::BlipFillTest

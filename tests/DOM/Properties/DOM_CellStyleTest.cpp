@@ -9,7 +9,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::CellStyleTest {
 
 using namespace Test;
 
@@ -179,4 +179,4 @@ TEST(CellStyleTest, RebaseLeavesEmptyPropertiesAndReplacesTheUUIDsWhoseReference
               }));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::CellStyleTest

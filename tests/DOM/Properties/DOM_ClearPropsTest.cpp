@@ -9,7 +9,7 @@
 #include "DOM/DOM_TextRun.h"
 #include "DOM/Properties/StyleSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ClearPropsTest {
 
 using namespace Test;
 
@@ -75,4 +75,4 @@ TEST(ClearPropsDeathTest, ANullRunIsAContractFailure)
     EXPECT_DEATH(clearAllProps(paragraph), "Utils/Public/Ptr/PtrUtils:246: plainPtr");
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::ClearPropsTest

@@ -9,7 +9,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ColorTest {
 
 using namespace Test;
 
@@ -194,4 +194,4 @@ TEST(ColorTest, IsAValueWithoutVirtualFunctions)
     expectCopiesAndMoves(Color(ThemeColorId::Accent2, {Tint(0.5), Gray()}));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::ColorTest

@@ -8,7 +8,7 @@
 
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ColorTransformTest {
 
 using namespace Test;
 
@@ -102,4 +102,4 @@ TEST(ColorTransformTest, AListKeepsItsOrderAndItsRepetitions)
               R"({"which":27,"data":{"_value":0.5}},{"which":0,"data":{"_value":1.0}}]})");
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::ColorTransformTest

@@ -17,7 +17,7 @@
 #include "DOM/Properties/PaintSamples.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::FillTest {
 
 using namespace Test;
 
@@ -144,7 +144,7 @@ TEST(FillTest, FillsOfOneClassCompareByTheirMembers)
 TEST(FillTest, AClonedFillHasTheClassAndContentOfItsSource)
 {
     for (const auto& fill : makeFamily()) {
-        const std::unique_ptr<Fill> unique = clone(*fill);
+        const std::unique_ptr<Fill> unique = cloneUnique(*fill);
         const std::shared_ptr<Fill> shared = cloneShared(*fill);
         EXPECT_NE(unique.get(), fill.get());
         EXPECT_TRUE(areDeeplyEqual(*unique, *fill));
@@ -179,4 +179,4 @@ TEST(FillTest, AVisitorGetsTheConcreteFill)
     }
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::FillTest

@@ -6,7 +6,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::FitToPagesTest {
 
 using namespace Test;
 
@@ -32,4 +32,4 @@ TEST(FitToPagesTest, ASetCountIsReadBackAndPersists)
     expectCopiesAndMoves(fit);
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::FitToPagesTest

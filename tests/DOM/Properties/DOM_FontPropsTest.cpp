@@ -9,7 +9,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::FontPropsTest {
 
 using namespace Test;
 
@@ -181,4 +181,4 @@ TEST(FontPropsTest, RebaseTakesNoUnsetReferenceForFalse)
     EXPECT_EQ(target.getBold(), BoolOpt(true));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::FontPropsTest

@@ -8,7 +8,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::GradientFillTest {
 
 using namespace Test;
 
@@ -122,4 +122,4 @@ TEST(GradientFillTest, ACopySharesNoStops)
     EXPECT_EQ(source, makeFill({0.0, 1.0}, 30.0F, GradientType::Shape));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::GradientFillTest

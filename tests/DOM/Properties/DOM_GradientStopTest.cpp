@@ -10,7 +10,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::GradientStopTest {
 
 using namespace Test;
 
@@ -58,4 +58,4 @@ TEST(GradientStopTest, IsAValueWithoutVirtualFunctions)
     expectCopiesAndMoves(makeStop(0.35, makePlaceholder({Tint(0.37)})));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::GradientStopTest

@@ -6,7 +6,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::HyperlinkTest {
 
 using namespace Test;
 
@@ -43,4 +43,4 @@ TEST(HyperlinkTest, OrdersByURLThenAnchorThenTooltip)
     });
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::HyperlinkTest

@@ -8,7 +8,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::LineEndingPropsTest {
 
 using namespace Test;
 
@@ -119,4 +119,4 @@ TEST(LineEndingPropsTest, IsAValueWithoutVirtualFunctions)
     expectCopiesAndMoves(makeEnding(1.0F, EndingStyle::Stealth));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::LineEndingPropsTest

@@ -10,7 +10,7 @@
 #include "DOM/Properties/PaintSamples.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::LinePropsTest {
 
 using namespace Test;
 
@@ -87,9 +87,9 @@ TEST(LinePropsTest, AClonedLineHasTheClassAndContentOfItsSource)
     regular.setWidth(1.0F);
     ThemeLineProps theme;
     theme.setIndex(2);
-    EXPECT_TRUE(areDeeplyEqual(*clone<LineProps>(regular), regular));
+    EXPECT_TRUE(areDeeplyEqual(*cloneUnique<LineProps>(regular), regular));
     EXPECT_TRUE(areDeeplyEqual(*cloneShared<LineProps>(regular), regular));
-    EXPECT_TRUE(areDeeplyEqual(*clone<LineProps>(theme), theme));
+    EXPECT_TRUE(areDeeplyEqual(*cloneUnique<LineProps>(theme), theme));
     EXPECT_TRUE(areDeeplyEqual(*cloneShared<LineProps>(theme), theme));
 }
 
@@ -104,4 +104,4 @@ TEST(LinePropsTest, AVisitorGetsTheConcreteLine)
     EXPECT_FALSE(visit<bool>(*theme, isRegular));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::LinePropsTest

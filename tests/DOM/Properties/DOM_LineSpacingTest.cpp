@@ -8,7 +8,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::LineSpacingTest {
 
 using namespace Test;
 
@@ -54,4 +54,4 @@ TEST(LineSpacingTest, ARuleBeyondAByteIsRefused)
     EXPECT_NE(loadError<LineSpacing>(R"({"_value":0.0,"_rule":256})"), "<loaded>");
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::LineSpacingTest

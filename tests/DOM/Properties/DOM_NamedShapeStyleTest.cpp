@@ -14,7 +14,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::NamedShapeStyleTest {
 
 using namespace Test;
 
@@ -124,4 +124,4 @@ TEST(NamedShapeStyleTest, EachMemberAndTheIdentityTakePartInEquality)
     EXPECT_NE(makeFullStyle(), changed([](NamedShapeStyle& s) { s.setParentUUID(UUID()); }));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::NamedShapeStyleTest

@@ -9,7 +9,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::NamedTableStyleTest {
 
 using namespace Test;
 
@@ -75,4 +75,4 @@ TEST(NamedTableStyleTest, ASetMemberIsReadBackTakesPartInEqualityAndPersists)
     expectSetting([](NamedTableStyle& s) { s.setUUID(OtherUUID); });
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::NamedTableStyleTest

@@ -10,7 +10,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::NamedTextStyleTest {
 
 using namespace Test;
 
@@ -113,4 +113,4 @@ TEST(NamedTextStyleTest, EachMemberAndTheIdentityTakePartInEquality)
     EXPECT_NE(makeFullStyle(), changed([](NamedTextStyle& s) { s.setNextParagraphStyleUUID(UUID()); }));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::NamedTextStyleTest

@@ -5,7 +5,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::NoFillTest {
 
 using namespace Test;
 
@@ -27,4 +27,4 @@ TEST(NoFillTest, IsCopiedAndMoved)
     expectCopiesAndMoves(NoFill());
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::NoFillTest

@@ -4,7 +4,7 @@
 
 #include <type_traits>
 
-namespace QN::DOM {
+namespace QN::DOM::NumberFormatTypeTest {
 
 TEST(NumberFormatTypeTest, TheNumbersAreThoseOfFiles)
 {
@@ -17,4 +17,4 @@ TEST(NumberFormatTypeTest, TheNumbersAreThoseOfFiles)
     EXPECT_EQ(static_cast<int>(NumberFormatType::Bullet), 5);
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::NumberFormatTypeTest

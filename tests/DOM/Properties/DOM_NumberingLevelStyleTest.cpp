@@ -6,7 +6,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::NumberingLevelStyleTest {
 
 using namespace Test;
 
@@ -54,4 +54,4 @@ TEST(NumberingLevelStyleTest, OverrideAndExcludeGoThroughBothProperties)
     EXPECT_EQ(target, NumberingLevelStyle(nullptr, makeRunProps(3.0F)));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::NumberingLevelStyleTest

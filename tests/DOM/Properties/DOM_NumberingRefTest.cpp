@@ -10,7 +10,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::NumberingRefTest {
 
 using namespace Test;
 
@@ -106,4 +106,4 @@ TEST(NumberingRefTest, CombinesAsThreeOptionals)
     EXPECT_EQ(*target.getLevel(), 5UL); // level 0 agrees with an absent one
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::NumberingRefTest

@@ -6,7 +6,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::PageNumberTest {
 
 using namespace Test;
 
@@ -46,4 +46,4 @@ TEST(PageNumberTest, EachMemberTakesPartInEquality)
     EXPECT_NE(number, PageNumber(HeaderFooterAlignment::Left, RunStyle(), NumberFormatType::Decimal));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::PageNumberTest

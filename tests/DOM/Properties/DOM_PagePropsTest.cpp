@@ -10,7 +10,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::PagePropsTest {
 
 using namespace Test;
 
@@ -137,4 +137,4 @@ TEST(PagePropsTest, RebaseTakesFitSettingsOnlyWhereTheReferencesAreTheSame)
     EXPECT_EQ(*target.getMargins(), Insets());
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::PagePropsTest

@@ -12,7 +12,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ParaPropsTest {
 
 using namespace Test;
 
@@ -277,4 +277,4 @@ TEST(ParaPropsTest, RebaseLeavesEmptyBordersWhereNothingIsSaidOnAnySide)
     EXPECT_EQ(*target.getBorders(), BordersProps());
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::ParaPropsTest

@@ -9,7 +9,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ParagraphStyleTest {
 
 using namespace Test;
 
@@ -148,4 +148,4 @@ TEST(ParagraphStyleTest, ExcludeGoesThroughPropertiesThatDiffer)
     EXPECT_EQ(*target.getRunProps(), *makeRunProps(3.0F));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::ParagraphStyleTest

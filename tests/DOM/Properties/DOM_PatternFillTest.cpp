@@ -6,7 +6,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::PatternFillTest {
 
 using namespace Test;
 
@@ -29,4 +29,4 @@ TEST(PatternFillTest, IsCopiedAndMoved)
     expectCopiesAndMoves(PatternFill());
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::PatternFillTest

@@ -7,7 +7,7 @@
 
 #include "DOM/Properties/AlgebraSample.h"
 
-namespace QN::DOM::AlgebraSample {
+namespace QN::DOM::AlgebraSample::PropertiesResolveUtilsTest {
 namespace {
 
 constexpr float NaN = std::numeric_limits<float>::quiet_NaN();
@@ -396,4 +396,4 @@ TEST(DOM_PropertiesResolveUtils, APointerKeepsItsOldValueWhenAnOperationOnItsCop
 }
 
 } // namespace
-} // namespace QN::DOM::AlgebraSample
+} // namespace QN::DOM::AlgebraSample::PropertiesResolveUtilsTest

@@ -11,7 +11,7 @@
 #include "DOM/Properties/DOM_RunStyle.h"
 #include "DOM/Properties/DOM_TableStyle.h"
 
-namespace QN::DOM::AlgebraExamples {
+namespace QN::DOM::AlgebraExamples::PropertyAlgebraTest {
 namespace {
 
 constexpr const char* Message =
@@ -357,4 +357,4 @@ TEST(DOM_PropertyAlgebra, OverridingANullPointerSharesWithoutACopy)
 }
 
 } // namespace
-} // namespace QN::DOM::AlgebraExamples
+} // namespace QN::DOM::AlgebraExamples::PropertyAlgebraTest

@@ -10,7 +10,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::RegularLinePropsTest {
 
 using namespace Test;
 
@@ -222,4 +222,4 @@ TEST(RegularLinePropsTest, ACopySharesTheImmutableEndings)
     EXPECT_EQ(source, makeFullLine());
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::RegularLinePropsTest

@@ -8,7 +8,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::RowColumnStyleTest {
 
 using namespace Test;
 
@@ -95,4 +95,4 @@ TEST(RowColumnStyleFormsTest, ThePropertiesAreThoseOfTheForm)
     expectPersists(with<ColumnStyle>([](ColumnStyle& s) { s.setProps(makeColumnProps(2.0F)); }));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::RowColumnStyleTest

@@ -11,7 +11,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::RunPropsTest {
 
 using namespace Test;
 
@@ -261,4 +261,4 @@ TEST(RunPropsTest, RebaseKeepsAnUnderlineWhoseReferencesDiffer)
     EXPECT_EQ(*target.getUnderline(), *makeLine(1.0F));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::RunPropsTest

@@ -11,7 +11,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::RunStyleTest {
 
 using namespace Test;
 
@@ -138,4 +138,4 @@ TEST(RunStyleTest, OrdersByMembersInKeyOrderWithTheAbsentFirst)
     });
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::RunStyleTest

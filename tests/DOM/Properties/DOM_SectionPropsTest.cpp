@@ -6,7 +6,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::SectionPropsTest {
 
 using namespace Test;
 
@@ -48,4 +48,4 @@ TEST(SectionPropsTest, EachMemberTakesPartInEquality)
     EXPECT_NE(props, with<SectionProps>([](SectionProps& p) { p.setStartingPageNumber(0U); }));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::SectionPropsTest

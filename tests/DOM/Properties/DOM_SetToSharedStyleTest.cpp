@@ -5,7 +5,7 @@
 #include "DOM/Properties/DOM_SharedObjectFactory.h"
 #include "DOM/Properties/StyleSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::SetToSharedStyleTest {
 
 using namespace Test;
 using SetToSharedStyleDetails::setToSharedStyleVariadicImpl;
@@ -60,4 +60,4 @@ TEST(SetToSharedStyleTest, SeveralValuesAreSetAtOnce)
     EXPECT_EQ(style, nullptr);
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::SetToSharedStyleTest

@@ -9,7 +9,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ShapeStyleTest {
 
 using namespace Test;
 
@@ -51,4 +51,4 @@ TEST(ShapeStyleTest, OrdersByThePropertiesAndThenByTheParent)
         {ShapeStyle(), withParent<ShapeStyle>(SomeUUID), withExtent(1.0F), withExtent(2.0F)});
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::ShapeStyleTest

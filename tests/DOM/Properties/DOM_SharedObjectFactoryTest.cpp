@@ -9,7 +9,7 @@
 #include "DOM/Shapes/DOM_ShapeProps.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::SharedObjectFactoryTest {
 
 using namespace Test;
 
@@ -102,4 +102,4 @@ TEST(SharedObjectFactoryPersistenceTest, WritesNoKeysAndIgnoresThoseOfAFile)
     EXPECT_EQ(toJson(factory), "{}");
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::SharedObjectFactoryTest

@@ -14,7 +14,7 @@
 #include "DOM/Properties/StyleSamples.h"
 #include "Support/AllocationCount.h"
 
-namespace QN::DOM {
+namespace QN::DOM::SharedStyleFactoryTest {
 
 using namespace Test;
 
@@ -268,4 +268,4 @@ TEST(SharedStyleFactoryTest, ARowStyleIsFoundThroughItsDefaultCellStyle)
     EXPECT_NE(factory.create(makeRow(OtherUUID)), style);
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::SharedStyleFactoryTest

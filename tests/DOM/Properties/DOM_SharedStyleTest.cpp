@@ -12,7 +12,7 @@
 #include "Support/RoundTrip.h"
 #include "Utils/Public/ClassScheme/Ordering.h"
 
-namespace QN::DOM {
+namespace QN::DOM::SharedStyleTest {
 
 using namespace Test;
 
@@ -144,4 +144,4 @@ TEST(SharedStyleHandleTest, AHandleToAStyleWithOneCommentIsNotEmpty)
     EXPECT_FALSE(isEmptyStyle(style));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::SharedStyleTest

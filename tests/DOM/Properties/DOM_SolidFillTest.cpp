@@ -8,7 +8,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::SolidFillTest {
 
 using namespace Test;
 
@@ -63,4 +63,4 @@ TEST(SolidFillTest, IsCopiedAndMoved)
     expectCopiesAndMoves(makeSolidFill(makePlaceholder({Tint(0.5)})));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::SolidFillTest

@@ -7,7 +7,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::SpacingValueTest {
 
 using namespace Test;
 
@@ -62,4 +62,4 @@ TEST(SpacingValueTest, ANaNIsUnequalToEverything)
     EXPECT_FALSE(SpacingValue(0.0F) < nan);
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::SpacingValueTest

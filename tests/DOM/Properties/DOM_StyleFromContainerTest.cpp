@@ -6,7 +6,7 @@
 #include "DOM/Properties/DOM_NamedTextStyle.h"
 #include "DOM/Properties/StyleSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::StyleFromContainerTest {
 
 using namespace Test;
 
@@ -25,4 +25,4 @@ TEST(StyleFromContainerTest, ANamedStyleGivesItself)
     EXPECT_EQ(&getStyleFromContainer(style), &style);
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::StyleFromContainerTest

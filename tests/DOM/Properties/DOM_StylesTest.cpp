@@ -13,7 +13,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::StylesTest {
 
 using namespace Test;
 
@@ -145,4 +145,4 @@ TEST(StylesTest, OfTwoHyperlinkStylesTheFirstInTheOrderOfTheContainerCounts)
     EXPECT_EQ(styles.getHyperlinkStyleUUID(), SomeUUID);
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::StylesTest

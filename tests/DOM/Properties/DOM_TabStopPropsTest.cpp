@@ -9,7 +9,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TabStopPropsTest {
 
 using namespace Test;
 
@@ -75,4 +75,4 @@ TEST(TabStopPropsTest, OrdersByTypeThenLeaderThenTheTwoCharactersByBytes)
     });
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::TabStopPropsTest

@@ -9,7 +9,7 @@
 #include "Support/RoundTrip.h"
 #include "Utils/Public/ClassScheme/Ordering.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TabStopsTest {
 
 using namespace Test;
 
@@ -90,4 +90,4 @@ TEST(TabStopsTest, OfTwoEntriesAtOnePositionInAFileTheFirstStays)
     EXPECT_EQ(stops.begin()->second.getLeader(), TabStopLeader::Dot);
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::TabStopsTest

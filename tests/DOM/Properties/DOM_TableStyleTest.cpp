@@ -8,7 +8,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TableStyleTest {
 
 using namespace Test;
 
@@ -101,4 +101,4 @@ TEST(TableStyleTest, OrdersByMembersInKeyOrderWithTheAbsentFirst)
     });
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::TableStyleTest

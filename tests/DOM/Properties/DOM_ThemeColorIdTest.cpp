@@ -6,7 +6,7 @@
 
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ThemeColorIdTest {
 
 using namespace Test;
 
@@ -35,4 +35,4 @@ TEST(ThemeColorIdTest, PersistsAsANumberWhetherItHasANameOrNot)
     expectRoundTrip(static_cast<ThemeColorId>(200));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::ThemeColorIdTest

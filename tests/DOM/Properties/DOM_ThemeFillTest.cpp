@@ -8,7 +8,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ThemeFillTest {
 
 using namespace Test;
 
@@ -83,4 +83,4 @@ TEST(ThemeFillTest, IsCopiedAndMoved)
     expectCopiesAndMoves(makeFill(3, FillThemeType::BackgroundFill, makePlaceholder({Shade(0.1)})));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::ThemeFillTest

@@ -6,7 +6,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ThemeLinePropsTest {
 
 using namespace Test;
 
@@ -58,4 +58,4 @@ TEST(ThemeLinePropsTest, IsCopiedAndMoved)
     expectCopiesAndMoves(makeLine(2, makePlaceholder({Shade(0.5)})));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::ThemeLinePropsTest

@@ -6,7 +6,7 @@
 
 #include "DOM/Properties/StyleSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ViewModePropsTest {
 
 using namespace Test;
 
@@ -88,4 +88,4 @@ TEST(ViewModePropsTest, AStyleWithoutTrackedPropertiesShowsItsOwnInAnyMode)
     EXPECT_EQ(getParaPropsForViewMode(ParagraphStyle(), Tracked), nullptr);
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::ViewModePropsTest

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "DOM/Properties/DOM_Color.h"
+#include "Support/Clones.h"
 
 /// Colours for the tests of what holds them.
 
@@ -27,21 +28,5 @@ inline DOM::Color makePlaceholder(DOM::ColorTransforms transforms = {})
 /// The JSON text of a default colour.
 inline constexpr const char* DefaultColorJson =
     R"({"_value":{"which":0,"data":{"value0":0,"value1":0,"value2":0,"value3":0}},"_transforms":[]})";
-
-template <class Root>
-std::unique_ptr<Root> clone(const Root& object)
-{
-    std::unique_ptr<Root> copy;
-    object.cloneTo(copy);
-    return copy;
-}
-
-template <class Root>
-std::shared_ptr<Root> cloneShared(const Root& object)
-{
-    std::shared_ptr<Root> copy;
-    object.cloneTo(copy);
-    return copy;
-}
 
 } // namespace QN::Test

@@ -8,7 +8,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::AbsoluteAnchorTest {
 
 using namespace Test;
 
@@ -63,4 +63,4 @@ TEST(AbsoluteAnchorTest, IsAValueWithoutVirtualFunctions)
     expectCopiesAndMoves(makeAnchor(1.0F, 2.0F));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::AbsoluteAnchorTest

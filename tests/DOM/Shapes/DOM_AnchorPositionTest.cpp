@@ -5,7 +5,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::AnchorPositionTest {
 
 using namespace Test;
 
@@ -69,4 +69,4 @@ TEST(AnchorPositionTest, IsCopiedAndMoved)
     expectCopiesAndMoves(AnchorVerticalPosition(2.0F));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::AnchorPositionTest

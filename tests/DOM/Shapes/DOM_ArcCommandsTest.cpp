@@ -4,7 +4,7 @@
 
 #include "DOM/Shapes/CommandChecks.h"
 
-namespace QN::DOM::DrawingCommands {
+namespace QN::DOM::DrawingCommands::ArcCommandsTest {
 namespace {
 
 constexpr auto Clockwise = static_cast<RotationDirection>(0);
@@ -70,4 +70,4 @@ TEST(ArcCommands, OfEqualOperandsAreUnequalInAnotherDirectionOrStart)
 }
 
 } // namespace
-} // namespace QN::DOM::DrawingCommands
+} // namespace QN::DOM::DrawingCommands::ArcCommandsTest

@@ -8,7 +8,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::CropTest {
 
 using namespace Test;
 
@@ -136,4 +136,4 @@ TEST(CropTest, IsAValueWithoutVirtualFunctions)
     expectCopiesAndMoves(makeCrop(1.0, boost::none, 3.0, 4.0));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::CropTest

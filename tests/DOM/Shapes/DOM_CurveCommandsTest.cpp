@@ -4,7 +4,7 @@
 
 #include "DOM/Shapes/CommandChecks.h"
 
-namespace QN::DOM::DrawingCommands {
+namespace QN::DOM::DrawingCommands::CurveCommandsTest {
 namespace {
 
 TEST(CurveCommandsDeathTest, AQuadraticCurveHasOneControlPoint)
@@ -23,4 +23,4 @@ TEST(CurveCommandsDeathTest, ACubicCurveHasTwoControlPoints)
 }
 
 } // namespace
-} // namespace QN::DOM::DrawingCommands
+} // namespace QN::DOM::DrawingCommands::CurveCommandsTest

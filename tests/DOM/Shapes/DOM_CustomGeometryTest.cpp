@@ -10,7 +10,7 @@
 #include "DOM/Shapes/DrawingFormulas/ExpressionSamples.h"
 #include "Support/Randomize.h"
 
-namespace QN::DOM {
+namespace QN::DOM::CustomGeometryTest {
 namespace {
 
 using namespace Test;
@@ -104,4 +104,4 @@ TEST(CustomGeometry, RandomOutlinesPersistAndCopy)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::CustomGeometryTest

@@ -7,7 +7,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::EffectTest {
 
 using namespace Test;
 
@@ -29,4 +29,4 @@ TEST(EffectTest, IsCopiedAndMoved)
     expectCopiesAndMoves(Effect());
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::EffectTest

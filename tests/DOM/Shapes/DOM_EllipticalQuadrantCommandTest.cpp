@@ -4,7 +4,7 @@
 
 #include "DOM/Shapes/CommandChecks.h"
 
-namespace QN::DOM::DrawingCommands {
+namespace QN::DOM::DrawingCommands::EllipticalQuadrantCommandTest {
 namespace {
 
 template <class Command>
@@ -30,4 +30,4 @@ TEST(EllipticalQuadrantCommand, IsUnequalToOneAlongTheOtherAxis)
 }
 
 } // namespace
-} // namespace QN::DOM::DrawingCommands
+} // namespace QN::DOM::DrawingCommands::EllipticalQuadrantCommandTest

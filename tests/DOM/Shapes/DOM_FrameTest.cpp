@@ -11,7 +11,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::FrameTest {
 
 using namespace Test;
 
@@ -201,4 +201,4 @@ TEST(FrameTest, HasNoOrder)
     static_assert(!Ordered<Frame>);
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::FrameTest

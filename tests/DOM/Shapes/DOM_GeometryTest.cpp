@@ -6,7 +6,7 @@
 #include "DOM/Shapes/DOM_CustomGeometry.h"
 #include "DOM/Shapes/DOM_PresetGeometry.h"
 
-namespace QN::DOM {
+namespace QN::DOM::GeometryTest {
 namespace {
 
 using namespace Test;
@@ -46,4 +46,4 @@ TEST(Geometry, ItsEnforcerIsEmpty)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::GeometryTest

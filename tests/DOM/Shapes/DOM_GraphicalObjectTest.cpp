@@ -10,7 +10,7 @@
 #include "DOM/Shapes/DOM_Picture.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::GraphicalObjectTest {
 
 using namespace Test;
 
@@ -66,10 +66,10 @@ TEST(GraphicalObjectTest, ALoadedObjectHasAnIdentityOfItsOwn)
 TEST(GraphicalObjectTest, AClonedObjectHasClassContentAndIdentityOfItsSource)
 {
     const Picture picture = makePicture("a");
-    EXPECT_TRUE(areDeeplyEqual(*clone<GraphicalObject>(picture), picture));
+    EXPECT_TRUE(areDeeplyEqual(*cloneUnique<GraphicalObject>(picture), picture));
     EXPECT_EQ(cloneShared<GraphicalObject>(picture)->getID(), picture.getID());
     const ChartSpace chartSpace;
-    EXPECT_TRUE(areDeeplyEqual(*clone<GraphicalObject>(chartSpace), chartSpace));
+    EXPECT_TRUE(areDeeplyEqual(*cloneUnique<GraphicalObject>(chartSpace), chartSpace));
     EXPECT_EQ(cloneShared<GraphicalObject>(chartSpace)->getID(), chartSpace.getID());
 }
 
@@ -84,4 +84,4 @@ TEST(GraphicalObjectTest, AVisitorGetsTheConcreteObject)
     EXPECT_FALSE(visit<bool>(*chartSpace, isPicture));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::GraphicalObjectTest

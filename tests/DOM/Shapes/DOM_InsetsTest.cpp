@@ -8,7 +8,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::InsetsTest {
 
 using namespace Test;
 
@@ -136,4 +136,4 @@ TEST(InsetsTest, IsAValueWithoutVirtualFunctions)
     expectCopiesAndMoves(makeInsets(1.0F, boost::none, 3.0F, 4.0F));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::InsetsTest

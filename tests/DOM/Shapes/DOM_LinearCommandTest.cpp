@@ -4,7 +4,7 @@
 
 #include "DOM/Shapes/CommandChecks.h"
 
-namespace QN::DOM::DrawingCommands {
+namespace QN::DOM::DrawingCommands::LinearCommandTest {
 namespace {
 
 template <class Command>
@@ -35,4 +35,4 @@ TEST(LinearCommand, MoveToAndLineToOfOnePointAreUnequal)
 }
 
 } // namespace
-} // namespace QN::DOM::DrawingCommands
+} // namespace QN::DOM::DrawingCommands::LinearCommandTest

@@ -7,7 +7,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::OneCellAnchorTest {
 
 using namespace Test;
 
@@ -58,4 +58,4 @@ TEST(OneCellAnchorTest, IsAValueWithoutVirtualFunctions)
     expectCopiesAndMoves(OneCellAnchor(From, {5.0F, 6.0F}));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::OneCellAnchorTest

@@ -8,7 +8,7 @@
 #include "DOM/Shapes/DOM_EllipticalQuadrantCommand.h"
 #include "DOM/Shapes/DOM_LinearCommand.h"
 
-namespace QN::DOM::DrawingCommands {
+namespace QN::DOM::DrawingCommands::PathCommandTest {
 namespace {
 
 template <class... Commands>
@@ -72,4 +72,4 @@ TEST(PathCommand, ItsEnforcerIsEmpty)
 }
 
 } // namespace
-} // namespace QN::DOM::DrawingCommands
+} // namespace QN::DOM::DrawingCommands::PathCommandTest

@@ -7,7 +7,7 @@
 #include "DOM/Shapes/CommandChecks.h"
 #include "DOM/Shapes/DOM_LinearCommand.h"
 
-namespace QN::DOM::DrawingCommands {
+namespace QN::DOM::DrawingCommands::PathTest {
 namespace {
 
 constexpr const char* DefaultJson = R"({"_minX":0,"_minY":0,"_width":0,"_height":0,"_commands":[],)"
@@ -105,4 +105,4 @@ TEST(PathDeathTest, ReadingANullCommandFailsTheContract)
 }
 
 } // namespace
-} // namespace QN::DOM::DrawingCommands
+} // namespace QN::DOM::DrawingCommands::PathTest

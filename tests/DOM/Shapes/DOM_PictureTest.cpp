@@ -6,7 +6,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::PictureTest {
 
 using namespace Test;
 
@@ -78,8 +78,8 @@ TEST(PictureTest, CopiesShareBytesAndIdentity)
     const Picture copy = makeCopy(picture);
     EXPECT_EQ(copy.getPictureData(), picture.getPictureData());
     EXPECT_EQ(copy.getID(), picture.getID());
-    EXPECT_EQ(clone<GraphicalObject>(picture)->getID(), picture.getID());
+    EXPECT_EQ(cloneUnique<GraphicalObject>(picture)->getID(), picture.getID());
     EXPECT_NE(makePicture("bytes").getID(), picture.getID());
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::PictureTest

@@ -5,7 +5,7 @@
 
 #include "DOM/FamilyChecks.h"
 
-namespace QN::DOM {
+namespace QN::DOM::PresetGeometryTest {
 namespace {
 
 using namespace Test;
@@ -47,4 +47,4 @@ TEST(PresetGeometry, ComparesTypeAndAdjustValues)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::PresetGeometryTest

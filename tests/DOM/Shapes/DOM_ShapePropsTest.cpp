@@ -12,7 +12,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ShapePropsTest {
 
 using namespace Test;
 
@@ -235,4 +235,4 @@ TEST(ShapePropsTest, AMoveTakesFillAndLineAlong)
     EXPECT_EQ(moved.getFill(), fill);
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::ShapePropsTest

@@ -13,7 +13,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ShapeTest {
 
 using namespace Test;
 
@@ -174,9 +174,9 @@ TEST(ShapeTest, CopiesAreDeepButForTheStyleAndKeepTheIdentity)
     Shape assigned;
     assigned = source;
     EXPECT_EQ(assigned.getID(), source.getID());
-    EXPECT_EQ(clone<Block>(source)->getID(), source.getID());
+    EXPECT_EQ(cloneUnique<Block>(source)->getID(), source.getID());
     EXPECT_EQ(cloneShared<Block>(source)->getID(), source.getID());
-    EXPECT_TRUE(areDeeplyEqual(*clone<Block>(source), source));
+    EXPECT_TRUE(areDeeplyEqual(*cloneUnique<Block>(source), source));
     EXPECT_NE(makeFullShape().getID(), source.getID());
 }
 
@@ -204,4 +204,4 @@ TEST(ShapeTest, HasNoOrder)
     static_assert(!Ordered<Shape>);
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::ShapeTest

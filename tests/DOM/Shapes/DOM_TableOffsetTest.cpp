@@ -8,7 +8,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TableOffsetTest {
 
 using namespace Test;
 
@@ -74,4 +74,4 @@ TEST(TableOffsetTest, IsAValueWithoutVirtualFunctions)
     expectCopiesAndMoves(makeOffset(1, 2.5F, 3, 4.5F));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::TableOffsetTest

@@ -10,7 +10,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TextAnchorTest {
 
 using namespace Test;
 
@@ -253,4 +253,4 @@ TEST(TextAnchorTest, ACopySharesNoPolygon)
     EXPECT_EQ(source, makeFullAnchor());
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::TextAnchorTest

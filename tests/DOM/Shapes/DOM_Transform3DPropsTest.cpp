@@ -7,7 +7,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::Transform3DPropsTest {
 
 using namespace Test;
 
@@ -117,4 +117,4 @@ TEST(Transform3DPropsTest, IsCopiedAndMoved)
     expectCopiesAndMoves(makeProps());
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::Transform3DPropsTest

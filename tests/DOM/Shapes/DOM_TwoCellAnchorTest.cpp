@@ -7,7 +7,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TwoCellAnchorTest {
 
 using namespace Test;
 
@@ -63,4 +63,4 @@ TEST(TwoCellAnchorTest, IsAValueWithoutVirtualFunctions)
     expectCopiesAndMoves(TwoCellAnchor(Early, Late));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::TwoCellAnchorTest

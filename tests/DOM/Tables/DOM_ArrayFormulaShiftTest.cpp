@@ -5,7 +5,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ArrayFormulaShiftTest {
 
 TEST(ArrayFormulaShiftTest, KeepsItsCountsWhichAreZeroByDefault)
 {
@@ -31,4 +31,4 @@ TEST(ArrayFormulaShiftTest, PersistsRowsBeforeColumns)
     QN::Test::expectCopiesAndMoves(ArrayFormulaShift(2, 3));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::ArrayFormulaShiftTest

@@ -8,7 +8,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::BlockValueTest {
 
 using namespace QN::Test;
 
@@ -85,4 +85,4 @@ TEST(BlockValueDeathTest, ANumberThatIsNotFiniteCannotBeSet)
     EXPECT_DEATH(number.set(FloatNumber(-Infinity)), failure);
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::BlockValueTest

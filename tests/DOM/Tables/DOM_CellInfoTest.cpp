@@ -5,7 +5,7 @@
 #include "DOM/Tables/TablePrinters.h"
 #include "DOM/Tables/TableSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::CellInfoTest {
 namespace {
 
 using namespace QN::Test;
@@ -58,4 +58,4 @@ TEST(DOM_CellInfo, KnowsThePivotTableOfItsPosition)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::CellInfoTest

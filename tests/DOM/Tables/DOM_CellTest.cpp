@@ -9,7 +9,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
-namespace QN::DOM {
+namespace QN::DOM::CellTest {
 namespace {
 
 using namespace QN::Test;
@@ -294,4 +294,4 @@ TEST(DOM_GetCellMergeProps, AreDefaultsForAMissingCell)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::CellTest

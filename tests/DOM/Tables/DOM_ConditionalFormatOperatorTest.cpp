@@ -8,7 +8,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ConditionalFormatOperatorTest {
 namespace {
 
 using namespace QN::Test;
@@ -183,4 +183,4 @@ TEST(DOM_ConditionalFormatOperator, WritesPlainEnumerationsAsNumbers)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::ConditionalFormatOperatorTest

@@ -8,7 +8,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ConditionalFormatTest {
 namespace {
 
 using namespace QN::Test;
@@ -149,4 +149,4 @@ TEST(DOM_ConditionalFormatDeathTest, MustNotBeNullWhereItIsAskedFor)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::ConditionalFormatTest

@@ -9,7 +9,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
-namespace QN::DOM {
+namespace QN::DOM::FieldCacheTest {
 namespace {
 
 using namespace QN::Test;
@@ -107,4 +107,4 @@ TEST(DOM_FieldCache, WritesItsIdentityAndThenItsFieldsByIdentifier)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::FieldCacheTest

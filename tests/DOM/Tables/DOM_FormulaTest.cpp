@@ -6,7 +6,7 @@
 
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
 
-namespace QN::DOM {
+namespace QN::DOM::FormulaTest {
 
 using namespace FormulaSyntaxTree;
 
@@ -114,4 +114,4 @@ TEST(FormulaDeathTest, AFormulaWithACallWithoutArgumentsCannotBeCopied)
     EXPECT_DEATH(Formula copy(formula), R"(argsRange\.begin\(\) != end)");
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::FormulaTest

@@ -9,7 +9,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
-namespace QN::DOM {
+namespace QN::DOM::MergedCellsCacheTest {
 namespace {
 
 using namespace QN::Test;
@@ -148,4 +148,4 @@ TEST(DOM_MergedCellsCache, WritesItsRanges)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::MergedCellsCacheTest

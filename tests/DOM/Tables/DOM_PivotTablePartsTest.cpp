@@ -10,7 +10,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
-namespace QN::DOM {
+namespace QN::DOM::PivotTablePartsTest {
 namespace {
 
 using namespace QN::Test;
@@ -98,4 +98,4 @@ TEST(DOM_PivotTableValue, HoldsBlocksAndAStyle)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::PivotTablePartsTest

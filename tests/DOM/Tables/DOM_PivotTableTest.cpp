@@ -9,7 +9,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
-namespace QN::DOM {
+namespace QN::DOM::PivotTableTest {
 namespace {
 
 using namespace QN::Test;
@@ -211,4 +211,4 @@ TEST(DOM_PivotTableDeathTest, IsAskedForAnErrorOnlyOnceItsOneResultHasABlock)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::PivotTableTest

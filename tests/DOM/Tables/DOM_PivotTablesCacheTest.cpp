@@ -8,7 +8,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
-namespace QN::DOM {
+namespace QN::DOM::PivotTablesCacheTest {
 namespace {
 
 using namespace QN::Test;
@@ -143,4 +143,4 @@ TEST(DOM_PivotTablesCache, WritesItsAreas)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::PivotTablesCacheTest

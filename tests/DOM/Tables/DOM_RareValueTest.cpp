@@ -7,7 +7,7 @@
 #include "Support/AllocationCount.h"
 #include "Support/ValueText.h"
 
-namespace QN::DOM {
+namespace QN::DOM::RareValueTest {
 namespace {
 
 using namespace QN::Test;
@@ -60,4 +60,4 @@ TEST(DOM_RareValue, IsWrittenAsTheValueItself)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::RareValueTest

@@ -12,7 +12,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
-namespace QN::DOM {
+namespace QN::DOM::RowColIDContainerTest {
 namespace {
 
 using namespace QN::Test;
@@ -340,4 +340,4 @@ TEST(DOM_RowColIDContainer, AgreesWithAListThroughRandomChanges)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::RowColIDContainerTest

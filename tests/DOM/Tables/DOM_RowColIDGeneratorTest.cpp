@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <set>
 
-namespace QN::DOM {
+namespace QN::DOM::RowColIDGeneratorTest {
 namespace {
 
 TEST(DOM_RowColIDGenerator, DrawsNumbersFarAboveThePredefinedIdentifiers)
@@ -26,4 +26,4 @@ TEST(DOM_RowColIDGenerator, DrawsNumbersFarAboveThePredefinedIdentifiers)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::RowColIDGeneratorTest

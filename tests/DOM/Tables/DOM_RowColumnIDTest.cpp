@@ -6,7 +6,7 @@
 
 #include "Support/RoundTrip.h"
 
-namespace QN::DOM {
+namespace QN::DOM::RowColumnIDTest {
 
 TEST(RowColumnIDTest, TheLargestTableHasItsSize)
 {
@@ -30,4 +30,4 @@ TEST(RowColumnIDTest, AnIdentifierPersistsAsATaggedNumberOfSixtyFourBits)
     QN::Test::expectPersists(ColumnID(1));
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::RowColumnIDTest

@@ -7,7 +7,7 @@
 #include "DOM/Tables/TablePrinters.h"
 #include "DOM/Tables/TableSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TableChunkTest {
 namespace {
 
 using namespace QN::Test;
@@ -147,4 +147,4 @@ TEST(DOM_TableChunk, IsCopiedDeeplyWithItsNullCells)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TableChunkTest

@@ -6,7 +6,7 @@
 #include "DOM/Tables/TablePrinters.h"
 #include "DOM/Tables/TableSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TableEqualityTest {
 namespace {
 
 using namespace QN::Test;
@@ -229,4 +229,4 @@ TEST(DOM_TableValidateDeathTest, FailsForRangesOutsideTheLiveRowsAndColumns)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TableEqualityTest

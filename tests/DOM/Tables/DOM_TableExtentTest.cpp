@@ -3,7 +3,7 @@
 #include "DOM/Tables/TablePrinters.h"
 #include "DOM/Tables/TableSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TableExtentTest {
 namespace {
 
 using namespace QN::Test;
@@ -128,4 +128,4 @@ TEST(DOM_TableChangeSize, KeepsTheFilterWithinTheLimits)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TableExtentTest

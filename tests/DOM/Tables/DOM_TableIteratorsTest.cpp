@@ -7,7 +7,7 @@
 #include "DOM/Tables/TablePrinters.h"
 #include "DOM/Tables/TableSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TableIteratorsTest {
 namespace {
 
 using namespace QN::Test;
@@ -472,4 +472,4 @@ TEST(DOM_LogicalCellIt, FollowsColumnsThatCameAndWent)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TableIteratorsTest

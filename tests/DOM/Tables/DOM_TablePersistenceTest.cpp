@@ -11,7 +11,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TablePersistenceTest {
 namespace {
 
 using namespace QN::Test;
@@ -235,4 +235,4 @@ TEST(DOM_TableDeathTest, HasNoLiveFrameThatIsNull)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TablePersistenceTest

@@ -6,7 +6,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TableRangeByIDTest {
 namespace {
 
 using namespace QN::Test;
@@ -61,4 +61,4 @@ TEST(DOM_TableRangeByID, OrdersByRowsAndThenByColumns)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TableRangeByIDTest

@@ -4,7 +4,7 @@
 #include "DOM/Tables/TablePrinters.h"
 #include "DOM/Tables/TableSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TableRangeCopyTest {
 namespace {
 
 using namespace QN::Test;
@@ -98,4 +98,4 @@ TEST(DOM_TableRangeCopyDeathTest, NeedsARange)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TableRangeCopyTest

@@ -5,7 +5,7 @@
 #include "DOM/Tables/TablePrinters.h"
 #include "DOM/Tables/TableSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TableRangeUtilsTest {
 namespace {
 
 using namespace QN::Test;
@@ -63,4 +63,4 @@ TEST(DOM_ConvertTableRange, TakesAWholeListElementByElement)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TableRangeUtilsTest

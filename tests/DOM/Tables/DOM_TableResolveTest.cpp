@@ -3,7 +3,7 @@
 #include "DOM/Tables/TablePrinters.h"
 #include "DOM/Tables/TableSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TableResolveTest {
 namespace {
 
 using namespace QN::Test;
@@ -233,4 +233,4 @@ TEST(DOM_TableFrozenRange, IsEmptyWhereARangeIsMissing)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TableResolveTest

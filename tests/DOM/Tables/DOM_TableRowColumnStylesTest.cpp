@@ -6,7 +6,7 @@
 #include "DOM/Tables/TablePrinters.h"
 #include "DOM/Tables/TableSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TableRowColumnStylesTest {
 namespace {
 
 using namespace QN::Test;
@@ -115,4 +115,4 @@ TEST(DOM_TableReset, RewritesNothingElse)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TableRowColumnStylesTest

@@ -6,7 +6,7 @@
 #include "DOM/Tables/TablePrinters.h"
 #include "DOM/Tables/TableSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TableStorageTest {
 namespace {
 
 using namespace QN::Test;
@@ -390,4 +390,4 @@ TEST(DOM_Table, KeepsItsChunksWhenCellsAreDropped)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TableStorageTest

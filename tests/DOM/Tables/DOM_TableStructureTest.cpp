@@ -7,7 +7,7 @@
 #include "DOM/Tables/TablePrinters.h"
 #include "DOM/Tables/TableSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TableStructureTest {
 namespace {
 
 using namespace QN::Test;
@@ -517,4 +517,4 @@ TEST(DOM_TableColumns, ForgetAllTombstones)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TableStructureTest

@@ -6,7 +6,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TombstonesWithIDsStorageTest {
 namespace {
 
 using namespace QN::Test;
@@ -148,4 +148,4 @@ TEST(DOM_TombstonesWithIDsStorageDeathTest, StopsTheProcessAtAReversedRangeOfAFi
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TombstonesWithIDsStorageTest

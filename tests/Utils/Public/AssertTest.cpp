@@ -4,6 +4,8 @@
 
 #include <string>
 
+namespace QN::AssertTest {
+
 namespace {
 
 TEST(AssertDeathTest, FailedCheckReportsFileLineAndExpression)
@@ -56,3 +58,5 @@ TEST(AssertTest, ContractHoldsForAnythingThatConvertsToTrueExplicitly)
 }
 
 } // namespace
+
+}  // namespace QN::AssertTest

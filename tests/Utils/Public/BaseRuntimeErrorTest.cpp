@@ -5,6 +5,8 @@
 #include <string>
 #include <type_traits>
 
+namespace QN::BaseRuntimeErrorTest {
+
 namespace {
 
 TEST(BaseRuntimeErrorTest, IsARuntimeErrorWithTheGivenText)
@@ -15,3 +17,5 @@ TEST(BaseRuntimeErrorTest, IsARuntimeErrorWithTheGivenText)
 }
 
 } // namespace
+
+}  // namespace QN::BaseRuntimeErrorTest

@@ -4,6 +4,8 @@
 
 #include <type_traits>
 
+namespace QN::BoolOptTest {
+
 namespace {
 
 using QN::BoolOpt;
@@ -81,3 +83,5 @@ TEST(BoolOptTest, TakesNothingButABool)
 }
 
 } // namespace
+
+}  // namespace QN::BoolOptTest

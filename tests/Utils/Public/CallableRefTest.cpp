@@ -7,6 +7,8 @@
 #include <type_traits>
 #include <utility>
 
+namespace QN::CallableRefTest {
+
 namespace {
 
 using QN::CallableRef;
@@ -114,3 +116,5 @@ TEST(CallableRefTest, TakesOnlyWhatCanBeCalledSo)
 }
 
 } // namespace
+
+}  // namespace QN::CallableRefTest

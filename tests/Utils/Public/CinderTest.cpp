@@ -5,6 +5,8 @@
 #include <utility>
 #include <vector>
 
+namespace QN::CinderTest {
+
 namespace {
 
 using Color = cinder::ColorT<unsigned char>;
@@ -71,3 +73,5 @@ TEST(CinderTest, PolygonCanBeChanged)
 }
 
 } // namespace
+
+}  // namespace QN::CinderTest

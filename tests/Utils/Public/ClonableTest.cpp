@@ -11,6 +11,8 @@
 #include "Support/TestFamily.h"
 #include "Utils/Public/ClassScheme/Define.h"
 
+namespace QN::ClonableTest {
+
 namespace {
 
 using namespace QN::Test;
@@ -136,3 +138,5 @@ TEST(ClonableSchemeTest, RootCarriesTheEmptyMarkOfFamilies)
 }
 
 } // namespace
+
+}  // namespace QN::ClonableTest

@@ -10,6 +10,8 @@
 #include <thread>
 #include <vector>
 
+namespace QN::EnvironmentTest {
+
 namespace {
 
 using QN::Environment::processWithRandomNumberGenerator;
@@ -89,3 +91,5 @@ TEST(EnvironmentTest, ThreadsTakeTurns)
 }
 
 } // namespace
+
+}  // namespace QN::EnvironmentTest

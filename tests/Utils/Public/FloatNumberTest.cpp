@@ -5,6 +5,8 @@
 #include <limits>
 #include <type_traits>
 
+namespace QN::FloatNumberTest {
+
 namespace {
 
 using QN::FloatNumber;
@@ -48,3 +50,5 @@ TEST(FloatNumberTest, DoesNotConvertByItself)
 }
 
 } // namespace
+
+}  // namespace QN::FloatNumberTest

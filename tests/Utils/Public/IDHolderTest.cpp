@@ -8,6 +8,8 @@
 #include <utility>
 #include <vector>
 
+namespace QN::IDHolderTest {
+
 namespace {
 
 using QN::IDHolder;
@@ -70,3 +72,5 @@ TEST(IDHolderTest, ObjectsOfSeveralThreadsDiffer)
 }
 
 } // namespace
+
+}  // namespace QN::IDHolderTest

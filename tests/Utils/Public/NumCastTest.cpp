@@ -6,6 +6,8 @@
 #include <string>
 #include <type_traits>
 
+namespace QN::NumCastTest {
+
 namespace {
 
 using QN::BadNumCastError;
@@ -72,3 +74,5 @@ TEST(NumCastTest, SourceTypeIsDeduced)
 }
 
 } // namespace
+
+}  // namespace QN::NumCastTest

@@ -7,6 +7,8 @@
 #include <set>
 #include <string>
 
+namespace QN::PaletteColorTest {
+
 namespace {
 
 using Color = cinder::ColorT<unsigned char>;
@@ -67,3 +69,5 @@ TEST(PaletteColorDeathTest, EmptyPaletteBreaksTheContract)
 }
 
 } // namespace
+
+}  // namespace QN::PaletteColorTest

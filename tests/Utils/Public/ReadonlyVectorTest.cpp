@@ -10,6 +10,8 @@
 #include <type_traits>
 #include <vector>
 
+namespace QN::ReadonlyVectorTest {
+
 namespace {
 
 using Items = std::vector<std::unique_ptr<int>>;
@@ -149,3 +151,5 @@ TEST(ReadonlyVectorDeathTest, ReadingANullElementBreaksTheContract)
 }
 
 } // namespace
+
+}  // namespace QN::ReadonlyVectorTest

@@ -10,6 +10,8 @@
 
 #include "Support/TestFamily.h"
 
+namespace QN::ReflectableTest {
+
 namespace {
 
 using QN::BaseInitializer;
@@ -141,3 +143,5 @@ TEST(ReflectableTest, CopyKeepsTheIdentitiesOfBothBases)
 }
 
 } // namespace
+
+}  // namespace QN::ReflectableTest

@@ -4,6 +4,8 @@
 
 #include <limits>
 
+namespace QN::Size2DTest {
+
 namespace {
 
 template <class T>
@@ -48,3 +50,5 @@ TEST(Size2DFloatTest, NotANumberDiffersFromItself)
 }
 
 } // namespace
+
+}  // namespace QN::Size2DTest

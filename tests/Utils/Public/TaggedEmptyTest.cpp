@@ -6,6 +6,8 @@
 #include <concepts>
 #include <type_traits>
 
+namespace QN::TaggedEmptyTest {
+
 namespace {
 
 struct FirstTag;
@@ -30,3 +32,5 @@ TEST(TaggedEmptyTest, TagsMakeTypesThatDoNotMix)
 }
 
 } // namespace
+
+}  // namespace QN::TaggedEmptyTest

@@ -13,6 +13,8 @@
 
 #include "Utils/Public/UUID.h"
 
+namespace QN::TaggedValueTest {
+
 namespace {
 
 using QN::TaggedValue;
@@ -208,3 +210,5 @@ TEST(TaggedValueTest, EqualValuesHashEqually)
 }
 
 } // namespace
+
+}  // namespace QN::TaggedValueTest

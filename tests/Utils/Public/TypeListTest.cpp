@@ -4,6 +4,8 @@
 
 #include <type_traits>
 
+namespace QN::TypeListTest {
+
 namespace {
 
 using QN::QNDummy;
@@ -24,3 +26,5 @@ TEST(TypeListTest, ListOfIncompleteTypesIsAValue)
 }
 
 } // namespace
+
+}  // namespace QN::TypeListTest

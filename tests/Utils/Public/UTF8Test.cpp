@@ -4,6 +4,8 @@
 
 #include <string>
 
+namespace QN::UTF8Test {
+
 namespace {
 
 using QN::getUTF8String;
@@ -70,3 +72,5 @@ TEST(UTF8Test, NothingElseEndsALine)
 }
 
 } // namespace
+
+}  // namespace QN::UTF8Test

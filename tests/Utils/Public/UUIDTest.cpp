@@ -9,6 +9,8 @@
 #include <unordered_set>
 #include <vector>
 
+namespace QN::UUIDTest {
+
 namespace {
 
 using QN::UUID;
@@ -198,3 +200,5 @@ TEST(UUIDTest, EqualValuesHashEquallyAndOthersHardlyEver)
 }
 
 } // namespace
+
+}  // namespace QN::UUIDTest

@@ -6,6 +6,8 @@
 #include <type_traits>
 #include <utility>
 
+namespace QN::UUIDableTest {
+
 namespace {
 
 using QN::UUID;
@@ -78,3 +80,5 @@ TEST(UUIDableTest, IsDestroyedThroughItsBase)
 }
 
 } // namespace
+
+}  // namespace QN::UUIDableTest

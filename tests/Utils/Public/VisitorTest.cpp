@@ -12,6 +12,8 @@
 #include "Support/AllocationCount.h"
 #include "Support/TestFamily.h"
 
+namespace QN::VisitorTest {
+
 namespace {
 
 using namespace QN::Test;
@@ -230,3 +232,5 @@ TEST(VisitorDeathTest, VisitorOfSeveralFunctorsWithoutAnyBreaksTheContract)
 }
 
 } // namespace
+
+}  // namespace QN::VisitorTest

@@ -8,7 +8,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
-namespace QN::DOM::DrawingFormulas {
+namespace QN::DOM::DrawingFormulas::DrawingFormulasAdjustValuesTest {
 namespace {
 
 using namespace Test;
@@ -105,4 +105,4 @@ TEST(DrawingFormulasAdjustValuesDeathTest, LoadListsOfUnequalLengthAndFailTheCon
 }
 
 } // namespace
-} // namespace QN::DOM::DrawingFormulas
+} // namespace QN::DOM::DrawingFormulas::DrawingFormulasAdjustValuesTest

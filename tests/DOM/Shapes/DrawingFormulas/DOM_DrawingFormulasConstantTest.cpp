@@ -6,7 +6,7 @@
 
 #include "DOM/Shapes/DrawingFormulas/ExpressionSamples.h"
 
-namespace QN::DOM::DrawingFormulas {
+namespace QN::DOM::DrawingFormulas::DrawingFormulasConstantTest {
 namespace {
 
 TEST(DrawingFormulasConstant, IsPiByDefault)
@@ -47,4 +47,4 @@ TEST(DrawingFormulasConstant, PassesUnknownTypesThrough)
 }
 
 } // namespace
-} // namespace QN::DOM::DrawingFormulas
+} // namespace QN::DOM::DrawingFormulas::DrawingFormulasConstantTest

@@ -5,7 +5,7 @@
 #include "DOM/Shapes/DrawingFormulas/ExpressionSamples.h"
 #include "Support/Randomize.h"
 
-namespace QN::DOM::DrawingFormulas {
+namespace QN::DOM::DrawingFormulas::DrawingFormulasExpressionTest {
 namespace {
 
 std::vector<std::unique_ptr<Expression>> makeOneOfEachKind()
@@ -96,4 +96,4 @@ TEST(DrawingFormulasExpression, ItsEnforcerIsEmpty)
 }
 
 } // namespace
-} // namespace QN::DOM::DrawingFormulas
+} // namespace QN::DOM::DrawingFormulas::DrawingFormulasExpressionTest

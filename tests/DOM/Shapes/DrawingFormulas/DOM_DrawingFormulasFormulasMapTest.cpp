@@ -6,7 +6,7 @@
 
 #include "DOM/Shapes/DrawingFormulas/ExpressionSamples.h"
 
-namespace QN::DOM::DrawingFormulas {
+namespace QN::DOM::DrawingFormulas::DrawingFormulasFormulasMapTest {
 namespace {
 
 constexpr unsigned long Largest = std::numeric_limits<unsigned long>::max();
@@ -90,4 +90,4 @@ TEST(DrawingFormulasFormulasMapDeathTest, LoadsListsOfUnequalLengthAndFailsTheCo
 }
 
 } // namespace
-} // namespace QN::DOM::DrawingFormulas
+} // namespace QN::DOM::DrawingFormulas::DrawingFormulasFormulasMapTest

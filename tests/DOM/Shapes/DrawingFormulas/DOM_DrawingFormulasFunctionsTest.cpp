@@ -8,7 +8,7 @@
 #include "DOM/Shapes/DrawingFormulas/DOM_DrawingFormulasFormulasMap.h"
 #include "DOM/Shapes/DrawingFormulas/ExpressionSamples.h"
 
-namespace QN::DOM::DrawingFormulas {
+namespace QN::DOM::DrawingFormulas::DrawingFormulasFunctionsTest {
 namespace {
 
 constexpr const char* PlainPtr = "Utils/Public/Ptr/PtrUtils:254: plainPtr";
@@ -203,4 +203,4 @@ TEST(DrawingFormulasFunctions, DestroyTreesOfAnyShape)
 }
 
 } // namespace
-} // namespace QN::DOM::DrawingFormulas
+} // namespace QN::DOM::DrawingFormulas::DrawingFormulasFunctionsTest

@@ -6,7 +6,7 @@
 
 #include "DOM/Shapes/DrawingFormulas/ExpressionSamples.h"
 
-namespace QN::DOM::DrawingFormulas {
+namespace QN::DOM::DrawingFormulas::DrawingFormulasReferenceTest {
 namespace {
 
 TEST(DrawingFormulasReference, IsATemplateOverWhatItsIndexCounts)
@@ -45,4 +45,4 @@ TEST(DrawingFormulasReference, ComparesByIndexWithinItsClass)
 }
 
 } // namespace
-} // namespace QN::DOM::DrawingFormulas
+} // namespace QN::DOM::DrawingFormulas::DrawingFormulasReferenceTest

@@ -6,7 +6,7 @@
 
 #include "DOM/Shapes/DrawingFormulas/ExpressionSamples.h"
 
-namespace QN::DOM::DrawingFormulas {
+namespace QN::DOM::DrawingFormulas::DrawingFormulasValueTest {
 namespace {
 
 TEST(DrawingFormulasValue, IsZeroByDefault)
@@ -41,4 +41,4 @@ TEST(DrawingFormulasValue, OfNaNIsUnequalToItself)
 }
 
 } // namespace
-} // namespace QN::DOM::DrawingFormulas
+} // namespace QN::DOM::DrawingFormulas::DrawingFormulasValueTest

@@ -5,7 +5,7 @@
 #include "DOM/Tables/Filters/DOM_ValuesTableFilter.h"
 #include "DOM/Tables/TablePrinters.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ByColumnTableFilterTest {
 namespace {
 
 TEST(DOM_ByColumnTableFilter, IsOnTheFirstColumnByDefault)
@@ -24,4 +24,4 @@ TEST(DOM_ByColumnTableFilter, DiffersByItsColumn)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::ByColumnTableFilterTest

@@ -6,7 +6,7 @@
 #include "DOM/Tables/Filters/DOM_NullaryConditionTableFilter.h"
 #include "DOM/Tables/Filters/DOM_UnaryConditionTableFilter.h"
 
-namespace QN::DOM {
+namespace QN::DOM::CompositeTableFilterTest {
 namespace {
 
 using namespace QN::Test;
@@ -83,4 +83,4 @@ TEST(DOM_CompositeTableFilter, RefusesAClassOfAnotherFamily)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::CompositeTableFilterTest

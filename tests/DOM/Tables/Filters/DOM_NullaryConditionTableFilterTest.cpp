@@ -4,7 +4,7 @@
 
 #include "DOM/FamilyChecks.h"
 
-namespace QN::DOM {
+namespace QN::DOM::NullaryConditionTableFilterTest {
 namespace {
 
 using namespace QN::Test;
@@ -35,4 +35,4 @@ TEST(DOM_NullaryConditionTableFilter, PassesUnknownOperatorsThrough)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::NullaryConditionTableFilterTest

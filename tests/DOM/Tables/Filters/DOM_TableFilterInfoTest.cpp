@@ -6,7 +6,7 @@
 #include "DOM/Tables/Filters/DOM_ValuesTableFilter.h"
 #include "DOM/Tables/TablePrinters.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TableFilterInfoTest {
 namespace {
 
 using namespace QN::Test;
@@ -82,4 +82,4 @@ TEST(DOM_TableFilterInfo, SharesNoFilterWithItsCopy)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TableFilterInfoTest

@@ -9,7 +9,7 @@
 #include "DOM/Tables/Filters/DOM_UnaryConditionTableFilter.h"
 #include "DOM/Tables/Filters/DOM_ValuesTableFilter.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TableFilterTest {
 namespace {
 
 using namespace QN::Test;
@@ -45,4 +45,4 @@ TEST(DOM_TableFiltersDynamicInitEnforcer, CanBeMadeAnywhere)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TableFilterTest

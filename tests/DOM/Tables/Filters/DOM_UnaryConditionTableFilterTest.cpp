@@ -4,7 +4,7 @@
 
 #include "DOM/FamilyChecks.h"
 
-namespace QN::DOM {
+namespace QN::DOM::UnaryConditionTableFilterTest {
 namespace {
 
 using namespace QN::Test;
@@ -39,4 +39,4 @@ TEST(DOM_UnaryConditionTableFilter, TakesWhatItIsGiven)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::UnaryConditionTableFilterTest

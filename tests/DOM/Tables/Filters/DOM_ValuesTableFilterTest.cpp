@@ -4,7 +4,7 @@
 
 #include "DOM/FamilyChecks.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ValuesTableFilterTest {
 namespace {
 
 using namespace QN::Test;
@@ -40,4 +40,4 @@ TEST(DOM_ValuesTableFilter, SortsTheTextsOfAFile)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::ValuesTableFilterTest

@@ -11,7 +11,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
-namespace QN::DOM {
+namespace QN::DOM::BordersPropsTest {
 namespace {
 
 using namespace QN::Test;
@@ -181,4 +181,4 @@ TEST(DOM_BordersProps, AreRebasedLineByLine)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::BordersPropsTest

@@ -6,7 +6,7 @@
 #include "DOM/Properties/StyleSamples.h"
 #include "DOM/Tables/Properties/DOM_BordersProps.h"
 
-namespace QN::DOM {
+namespace QN::DOM::BordersUtilsTest {
 namespace {
 
 using namespace QN::Test;
@@ -158,4 +158,4 @@ TEST(DOM_GetPreferedBorder, IsTheDarkerLineAmongEquallyWideOnes)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::BordersUtilsTest

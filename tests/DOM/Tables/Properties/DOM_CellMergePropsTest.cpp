@@ -7,7 +7,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
-namespace QN::DOM {
+namespace QN::DOM::CellMergePropsTest {
 namespace {
 
 using namespace QN::Test;
@@ -33,4 +33,4 @@ TEST(DOM_CellMergeProps, OrderByRowsAndThenByColumns)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::CellMergePropsTest

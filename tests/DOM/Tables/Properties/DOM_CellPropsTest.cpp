@@ -10,7 +10,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
-namespace QN::DOM {
+namespace QN::DOM::CellPropsTest {
 namespace {
 
 using namespace QN::Test;
@@ -226,4 +226,4 @@ TEST(DOM_CellProps, HaveTheDefaultsOfAWorksheet)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::CellPropsTest

@@ -9,7 +9,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
-namespace QN::DOM {
+namespace QN::DOM::ColumnPropsTest {
 namespace {
 
 using namespace QN::Test;
@@ -105,4 +105,4 @@ TEST(DOM_ColumnProps, AreNotRebasedWhereTheReferencesAreNotANumber)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::ColumnPropsTest

@@ -7,7 +7,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
-namespace QN::DOM {
+namespace QN::DOM::HeaderRowsColsTest {
 namespace {
 
 using namespace QN::Test;
@@ -84,4 +84,4 @@ TEST(DOM_HeaderRowsCols, OrderByRowsAndThenByColumns)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::HeaderRowsColsTest

@@ -5,7 +5,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
-namespace QN::DOM {
+namespace QN::DOM::RowHeightTest {
 namespace {
 
 using namespace QN::Test;
@@ -66,4 +66,4 @@ TEST(DOM_RowHeight, IsPersistedInItsPartialFormAlone)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::RowHeightTest

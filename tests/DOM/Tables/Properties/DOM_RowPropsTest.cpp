@@ -7,7 +7,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
-namespace QN::DOM {
+namespace QN::DOM::RowPropsTest {
 namespace {
 
 using namespace QN::Test;
@@ -139,4 +139,4 @@ TEST(DOM_RowProps, AreRebasedWhereTheReferencesAgree)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::RowPropsTest

@@ -7,7 +7,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TablePropsTest {
 namespace {
 
 using namespace QN::Test;
@@ -77,4 +77,4 @@ TEST(DOM_TableProps, TakeTheVisibilityOfTheReplacementWhereTheReferencesAgree)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TablePropsTest

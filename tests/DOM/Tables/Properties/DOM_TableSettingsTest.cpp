@@ -6,7 +6,7 @@
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
-namespace QN::DOM {
+namespace QN::DOM::TableSettingsTest {
 namespace {
 
 using namespace QN::Test;
@@ -39,4 +39,4 @@ TEST(DOM_TableSettings, OrderByTheirMembersInTurn)
 }
 
 } // namespace
-} // namespace QN::DOM
+} // namespace QN::DOM::TableSettingsTest

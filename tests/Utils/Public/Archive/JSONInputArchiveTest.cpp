@@ -13,6 +13,8 @@
 #include "Support/ValueText.h"
 #include "Utils/Public/Archive/JSONArchives.h"
 
+namespace QN::JSONInputArchiveTest {
+
 namespace {
 
 using cereal::JSONInputArchive;
@@ -346,3 +348,5 @@ TEST(JSONInputArchiveTest, TargetIsReplacedAndNotAppendedTo)
 }
 
 } // namespace
+
+}  // namespace QN::JSONInputArchiveTest

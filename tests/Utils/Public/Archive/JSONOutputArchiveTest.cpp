@@ -15,6 +15,8 @@
 #include "Support/ValueText.h"
 #include "Utils/Public/Archive/JSONArchives.h"
 
+namespace QN::JSONOutputArchiveTest {
+
 namespace {
 
 using cereal::JSONOutputArchive;
@@ -276,3 +278,5 @@ TEST(JSONOutputArchiveTest, ExceptionOfTheStreamPassesThroughButNotOutOfTheDestr
 }
 
 } // namespace
+
+}  // namespace QN::JSONOutputArchiveTest

@@ -11,6 +11,8 @@
 
 #include "Utils/Public/Archive/RapidJSON.h"
 
+namespace QN::JSONTapeTest {
+
 namespace {
 
 using cereal::RapidJSONException;
@@ -276,3 +278,5 @@ TEST(JSONTapeTest, AgreesWithAnotherParserOnRandomNumbers)
 }
 
 } // namespace
+
+}  // namespace QN::JSONTapeTest

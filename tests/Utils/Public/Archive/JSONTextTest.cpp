@@ -12,6 +12,8 @@
 #include "Support/ValueText.h"
 #include "Utils/Public/Archive/RapidJSON.h"
 
+namespace QN::JSONTextTest {
+
 /// Strings are any bytes: pictures live in them.
 
 namespace {
@@ -179,3 +181,5 @@ TEST(JSONTextTest, OnlyAStringReadsAsAString)
 }
 
 } // namespace
+
+}  // namespace QN::JSONTextTest

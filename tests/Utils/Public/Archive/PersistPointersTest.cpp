@@ -15,6 +15,8 @@
 #include "Utils/Public/Archive/PersistStandard.h"
 #include "Utils/Public/ClassScheme/Define.h"
 
+namespace QN::PersistPointersTest {
+
 namespace {
 
 using namespace QN::Test;
@@ -320,3 +322,5 @@ TEST(PersistPointersTest, SharedConstPointerIsASharedPointerUnderValue)
 }
 
 } // namespace
+
+}  // namespace QN::PersistPointersTest

@@ -17,6 +17,8 @@
 
 #include "Support/ValueText.h"
 
+namespace QN::PersistStandardTest {
+
 namespace {
 
 using namespace QN::Test;
@@ -226,3 +228,5 @@ TEST(PersistStandardTest, LoadedContainerHoldsNothingOfTheFormerOne)
 }
 
 } // namespace
+
+}  // namespace QN::PersistStandardTest

@@ -11,6 +11,8 @@
 #include "Support/ValueText.h"
 #include "Utils/Public/ClassScheme/Define.h"
 
+namespace QN::PersistTest {
+
 namespace {
 
 using namespace QN::Test;
@@ -258,3 +260,5 @@ TEST(PersistTest, FailedLoadLeavesWhatWasReadUntilThen)
 }
 
 } // namespace
+
+}  // namespace QN::PersistTest

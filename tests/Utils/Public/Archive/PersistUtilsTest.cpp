@@ -14,9 +14,10 @@
 #include "Utils/Public/TableIndices/TableRange.h"
 #include "Utils/Public/UUIDable.h"
 
+namespace QN::PersistUtilsTest {
+
 namespace {
 
-using namespace QN;
 using namespace QN::Test;
 
 struct HourTag;
@@ -194,3 +195,5 @@ TEST(PersistUtilsTest, PolygonIsItsPointsAndWhetherItIsClosed)
 }
 
 } // namespace
+
+}  // namespace QN::PersistUtilsTest

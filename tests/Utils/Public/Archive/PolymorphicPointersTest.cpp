@@ -13,6 +13,8 @@
 #include "Utils/Public/Archive/PersistStandard.h"
 #include "Utils/Public/ClassScheme/Define.h"
 
+namespace QN::PolymorphicPointersTest {
+
 /// Pointers to the classes of a family.
 
 namespace {
@@ -360,3 +362,5 @@ TEST(PolymorphicPointersTest, PlainFormOfAFamilyClassIsAvailableWhereAskedFor)
 }
 
 } // namespace
+
+}  // namespace QN::PolymorphicPointersTest

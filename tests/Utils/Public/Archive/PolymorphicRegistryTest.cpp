@@ -8,6 +8,8 @@
 
 #include "Support/TestFamily.h"
 
+namespace QN::PolymorphicRegistryTest {
+
 namespace {
 
 using namespace cereal::detail;
@@ -117,3 +119,5 @@ TEST(PolymorphicRegistryTest, MissingRelationIsReportedWithBothNames)
 }
 
 } // namespace
+
+}  // namespace QN::PolymorphicRegistryTest

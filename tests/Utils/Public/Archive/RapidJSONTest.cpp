@@ -6,6 +6,8 @@
 #include <string>
 #include <type_traits>
 
+namespace QN::RapidJSONTest {
+
 namespace {
 
 TEST(RapidJSONTest, FailedAssertionOfTheParserRaisesAnException)
@@ -28,3 +30,5 @@ TEST(RapidJSONTest, ExceptionsFormOneLine)
 }
 
 } // namespace
+
+}  // namespace QN::RapidJSONTest

@@ -17,9 +17,10 @@
 #include "Utils/Public/ClassScheme/Define.h"
 #include "Utils/Public/Ptr/PropagateConstPtr.h"
 
+namespace QN::CopyTest {
+
 namespace {
 
-using namespace QN;
 using namespace QN::Test;
 
 using ItemPtr = std::unique_ptr<Item>;
@@ -264,3 +265,5 @@ TEST(CopyTest, AssignmentThatFailsLeavesTheTargetAndLeaksNothing)
 }
 
 } // namespace
+
+}  // namespace QN::CopyTest

@@ -12,6 +12,8 @@
 #include "Support/AllocationCount.h"
 #include "Support/TestFamily.h"
 
+namespace QN::DeepComparisonTest {
+
 namespace {
 
 using namespace QN::Test;
@@ -201,3 +203,5 @@ TEST(DeepComparisonTest, ComparingAllocatesNothing)
 }
 
 } // namespace
+
+}  // namespace QN::DeepComparisonTest

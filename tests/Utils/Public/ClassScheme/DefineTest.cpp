@@ -14,9 +14,10 @@
 #include "Support/ValueText.h"
 #include "Utils/Public/Size2D.h"
 
+namespace QN::DefineTest {
+
 namespace {
 
-using namespace QN;
 using namespace QN::Test;
 
 struct IndexTag;
@@ -199,3 +200,5 @@ TEST(DefineTest, ClassMayDepartFromItsList)
 }
 
 } // namespace
+
+}  // namespace QN::DefineTest

@@ -16,9 +16,10 @@
 #include "Utils/Public/Ptr/PropagateConstPtr.h"
 #include "Utils/Public/Ptr/SharedConstPtr.h"
 
+namespace QN::EqualityTest {
+
 namespace {
 
-using namespace QN;
 using namespace QN::Test;
 
 const double NaN = std::numeric_limits<double>::quiet_NaN();
@@ -203,3 +204,5 @@ TEST(EqualityTest, ClassComparesItsBasesAndItsListedMembers)
 }
 
 } // namespace
+
+}  // namespace QN::EqualityTest

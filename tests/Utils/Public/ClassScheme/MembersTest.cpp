@@ -11,9 +11,10 @@
 
 #include "Utils/Public/ClassScheme/Declare.h"
 
+namespace QN::MembersTest {
+
 namespace {
 
-using namespace QN;
 
 struct First {};
 struct Second {};
@@ -121,3 +122,5 @@ TEST(MembersTest, WalkEndsAtTheFirstRefusal)
 }
 
 } // namespace
+
+}  // namespace QN::MembersTest

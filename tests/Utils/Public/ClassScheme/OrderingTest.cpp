@@ -21,9 +21,10 @@
 #include "Utils/Public/TaggedEmpty.h"
 #include "Utils/Public/TaggedValue.h"
 
+namespace QN::OrderingTest {
+
 namespace {
 
-using namespace QN;
 using namespace QN::Test;
 
 constexpr auto Less = std::partial_ordering::less;
@@ -259,3 +260,5 @@ TEST(OrderingTest, ComparingAllocatesNothing)
 }
 
 } // namespace
+
+}  // namespace QN::OrderingTest

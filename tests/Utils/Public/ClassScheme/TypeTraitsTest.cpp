@@ -18,9 +18,10 @@
 #include "Utils/Public/Ptr/PropagateConstPtr.h"
 #include "Utils/Public/Ptr/SharedConstPtr.h"
 
+namespace QN::TypeTraitsTest {
+
 namespace {
 
-using namespace QN;
 
 TEST(TypeTraitsTest, InstancesOfATemplateAreTold)
 {
@@ -69,3 +70,5 @@ TEST(TypeTraitsTest, PlainPointerOfAnySmartPointerIsReached)
 }
 
 } // namespace
+
+}  // namespace QN::TypeTraitsTest

@@ -6,6 +6,8 @@
 #include <type_traits>
 #include <utility>
 
+namespace QN::OptUtilsTest {
+
 namespace {
 
 using QN::getRequired;
@@ -41,3 +43,5 @@ TEST(OptUtilsDeathTest, EmptyOptionalBreaksTheContract)
 }
 
 } // namespace
+
+}  // namespace QN::OptUtilsTest

@@ -5,6 +5,8 @@
 #include <string>
 #include <type_traits>
 
+namespace QN::CheckedPtrTest {
+
 namespace {
 
 using QN::CheckedPtr;
@@ -47,3 +49,5 @@ TEST(CheckedPtrDeathTest, DereferencingNullBreaksTheContract)
 }
 
 } // namespace
+
+}  // namespace QN::CheckedPtrTest

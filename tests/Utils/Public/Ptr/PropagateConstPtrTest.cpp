@@ -7,6 +7,8 @@
 #include <type_traits>
 #include <utility>
 
+namespace QN::PropagateConstPtrTest {
+
 namespace {
 
 struct Base {
@@ -99,3 +101,5 @@ TEST(PropagateConstPtrDeathTest, DereferencingNullBreaksTheContract)
 }
 
 } // namespace
+
+}  // namespace QN::PropagateConstPtrTest

@@ -7,6 +7,8 @@
 #include <memory>
 #include <type_traits>
 
+namespace QN::PtrUtilsTest {
+
 namespace {
 
 using QN::checkedDeref;
@@ -59,3 +61,5 @@ TEST(PtrUtilsDeathTest, NullPointerToConstBreaksTheContractOfLine254)
 }
 
 } // namespace
+
+}  // namespace QN::PtrUtilsTest

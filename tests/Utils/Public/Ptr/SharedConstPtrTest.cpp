@@ -6,6 +6,8 @@
 #include <type_traits>
 #include <utility>
 
+namespace QN::SharedConstPtrTest {
+
 namespace {
 
 struct Base {
@@ -88,3 +90,5 @@ TEST(SharedConstPtrDeathTest, DereferencingNullBreaksTheContract)
 }
 
 } // namespace
+
+}  // namespace QN::SharedConstPtrTest

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace QN::CellIndexTest {
+
 namespace {
 
 using QN::CellIndex;
@@ -35,3 +37,5 @@ TEST(CellIndexTest, ComparesRowBeforeColumn)
 }
 
 } // namespace
+
+}  // namespace QN::CellIndexTest

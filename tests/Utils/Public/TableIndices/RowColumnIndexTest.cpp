@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <type_traits>
 
+namespace QN::RowColumnIndexTest {
+
 namespace {
 
 using QN::ColumnIndex;
@@ -36,3 +38,5 @@ TEST(RowColumnIndexTest, CountsFromZeroOver64Bits)
 }
 
 } // namespace
+
+}  // namespace QN::RowColumnIndexTest

@@ -7,6 +7,8 @@
 
 #include "Utils/Public/TableIndices/RowColumnIndex.h"
 
+namespace QN::RowColumnIndicesTest {
+
 namespace {
 
 using QN::ColumnIndex;
@@ -36,3 +38,5 @@ TEST(RowColumnIndicesDeathTest, EndBeforeTheBeginBreaksTheContract)
 }
 
 } // namespace
+
+}  // namespace QN::RowColumnIndicesTest

@@ -10,6 +10,8 @@
 
 #include "Utils/Public/NumCast.h"
 
+namespace QN::TableRangeTest {
+
 namespace {
 
 using QN::CellIndex;
@@ -190,3 +192,5 @@ TEST(TableRangeDeathTest, ReversedRangeBreaksTheContract)
 }
 
 } // namespace
+
+}  // namespace QN::TableRangeTest

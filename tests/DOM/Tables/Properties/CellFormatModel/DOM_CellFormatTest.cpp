@@ -4,7 +4,7 @@
 
 #include "DOM/Tables/Properties/CellFormatModel/FormatSamples.h"
 
-namespace QN::DOM {
+namespace QN::DOM::CellFormatTest {
 
 using namespace CellFormatModel;
 
@@ -73,4 +73,4 @@ TEST(CellFormatTest, AnAlternativeOutOfRangeIsRefused)
               "Error traversing variant during load");
 }
 
-} // namespace QN::DOM
+} // namespace QN::DOM::CellFormatTest

@@ -7,7 +7,7 @@
 #include <cmath>
 #include <limits>
 
-namespace QN::DOM::CellFormatModel {
+namespace QN::DOM::CellFormatModel::FormatModelConditionTest {
 
 TEST(FormatModelConditionTest, IsZeroByDefault)
 {
@@ -55,4 +55,4 @@ TEST(FormatModelConditionDeathTest, ANumberThatIsNotFiniteCannotBeSet)
     EXPECT_DEATH(condition.setValue(FloatNumber(std::numeric_limits<double>::infinity())), failure);
 }
 
-} // namespace QN::DOM::CellFormatModel
+} // namespace QN::DOM::CellFormatModel::FormatModelConditionTest

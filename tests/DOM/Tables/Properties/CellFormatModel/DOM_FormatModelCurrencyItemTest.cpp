@@ -4,7 +4,7 @@
 
 #include "DOM/Tables/Properties/CellFormatModel/FormatSamples.h"
 
-namespace QN::DOM::CellFormatModel {
+namespace QN::DOM::CellFormatModel::FormatModelCurrencyItemTest {
 
 TEST(FormatModelCurrencyItemTest, IsEmptyByDefault)
 {
@@ -37,4 +37,4 @@ TEST(FormatModelCurrencyItemTest, PersistsSymbolAndLanguage)
     expectCopiesAndMoves(CurrencyItem("kr", 1030U));
 }
 
-} // namespace QN::DOM::CellFormatModel
+} // namespace QN::DOM::CellFormatModel::FormatModelCurrencyItemTest

@@ -4,7 +4,7 @@
 
 #include "DOM/Tables/Properties/CellFormatModel/FormatSamples.h"
 
-namespace QN::DOM::CellFormatModel {
+namespace QN::DOM::CellFormatModel::FormatModelExpressionTest {
 
 TEST(FormatModelExpressionTest, IsEmptyByDefault)
 {
@@ -82,4 +82,4 @@ TEST(FormatModelExpressionTest, PersistsTheRulesThenTheDefaults)
     expectCopiesAndMoves(expression);
 }
 
-} // namespace QN::DOM::CellFormatModel
+} // namespace QN::DOM::CellFormatModel::FormatModelExpressionTest

@@ -4,7 +4,7 @@
 
 #include "DOM/Tables/Properties/CellFormatModel/FormatSamples.h"
 
-namespace QN::DOM::CellFormatModel {
+namespace QN::DOM::CellFormatModel::FormatModelExtraItemTest {
 
 TEST(FormatModelExtraItemTest, IsOfTypeZeroByDefaultAndKeepsWhatIsSet)
 {
@@ -22,4 +22,4 @@ TEST(FormatModelExtraItemTest, PersistsItsType)
     expectCopiesAndMoves(ExtraItem(ExtraItem::Type(2)));
 }
 
-} // namespace QN::DOM::CellFormatModel
+} // namespace QN::DOM::CellFormatModel::FormatModelExtraItemTest

@@ -4,7 +4,7 @@
 
 #include "DOM/Tables/Properties/CellFormatModel/FormatSamples.h"
 
-namespace QN::DOM::CellFormatModel {
+namespace QN::DOM::CellFormatModel::FormatModelNumberItemTest {
 
 TEST(FormatModelNumberItemTest, IsEmptyByDefault)
 {
@@ -71,4 +71,4 @@ TEST(FormatModelNumberItemTest, PersistsItsMembersAndEmbeddedItemsAsPairs)
     expectCopiesAndMoves(makeNumberItem());
 }
 
-} // namespace QN::DOM::CellFormatModel
+} // namespace QN::DOM::CellFormatModel::FormatModelNumberItemTest

@@ -4,7 +4,7 @@
 
 #include "DOM/Tables/Properties/CellFormatModel/FormatSamples.h"
 
-namespace QN::DOM::CellFormatModel {
+namespace QN::DOM::CellFormatModel::FormatModelRuleTest {
 
 TEST(FormatModelRuleTest, IsEmptyByDefaultAndValidSo)
 {
@@ -123,4 +123,4 @@ TEST(FormatModelRuleTest, AnItemOfAnUnknownKindIsRefused)
     EXPECT_EQ(load(R"({"which":-1,"data":{}})"), "Error traversing variant during load");
 }
 
-} // namespace QN::DOM::CellFormatModel
+} // namespace QN::DOM::CellFormatModel::FormatModelRuleTest

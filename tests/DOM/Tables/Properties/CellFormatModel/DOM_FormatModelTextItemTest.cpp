@@ -4,7 +4,7 @@
 
 #include "DOM/Tables/Properties/CellFormatModel/FormatSamples.h"
 
-namespace QN::DOM::CellFormatModel {
+namespace QN::DOM::CellFormatModel::FormatModelTextItemTest {
 
 TEST(FormatModelTextItemTest, IsEmptyByDefault)
 {
@@ -30,4 +30,4 @@ TEST(FormatModelTextItemTest, PersistsTypeAndText)
     expectCopiesAndMoves(TextItem(TextItem::Type(9), "a"));
 }
 
-} // namespace QN::DOM::CellFormatModel
+} // namespace QN::DOM::CellFormatModel::FormatModelTextItemTest

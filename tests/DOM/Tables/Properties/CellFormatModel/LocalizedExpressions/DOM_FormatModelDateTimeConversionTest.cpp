@@ -7,7 +7,7 @@
 #include <map>
 #include <vector>
 
-namespace QN::DOM::CellFormatModel {
+namespace QN::DOM::CellFormatModel::FormatModelDateTimeConversionTest {
 
 namespace {
 
@@ -99,4 +99,4 @@ TEST(FormatModelDateTimeConversionTest, AnEmptyRuleGivesTheEmptySet)
     EXPECT_EQ(convert({separator()}), Pairs{});
 }
 
-} // namespace QN::DOM::CellFormatModel
+} // namespace QN::DOM::CellFormatModel::FormatModelDateTimeConversionTest

@@ -4,7 +4,7 @@
 
 #include "DOM/Tables/Properties/CellFormatModel/FormatSamples.h"
 
-namespace QN::DOM::CellFormatModel {
+namespace QN::DOM::CellFormatModel::FormatModelDateTimeItemTest {
 
 TEST(FormatModelDateTimeItemTest, IsOfTypeZeroWithoutDecimalPlacesByDefault)
 {
@@ -48,4 +48,4 @@ TEST(FormatModelDateTimeItemTest, PersistsTypeAndDecimalPlacesAsBytes)
     expectCopiesAndMoves(DateTimeItem(DateTimeItem::Type::Second, 3));
 }
 
-} // namespace QN::DOM::CellFormatModel
+} // namespace QN::DOM::CellFormatModel::FormatModelDateTimeItemTest

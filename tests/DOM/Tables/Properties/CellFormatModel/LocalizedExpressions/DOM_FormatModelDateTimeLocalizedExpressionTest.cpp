@@ -4,7 +4,7 @@
 
 #include "DOM/Tables/Properties/CellFormatModel/FormatSamples.h"
 
-namespace QN::DOM::CellFormatModel {
+namespace QN::DOM::CellFormatModel::FormatModelDateTimeLocalizedExpressionTest {
 
 namespace {
 
@@ -109,4 +109,4 @@ TEST(FormatModelDateTimeLocalizedExpressionTest, PersistsTheItemsAndTheType)
     expectCopiesAndMoves(makeLocalized());
 }
 
-} // namespace QN::DOM::CellFormatModel
+} // namespace QN::DOM::CellFormatModel::FormatModelDateTimeLocalizedExpressionTest

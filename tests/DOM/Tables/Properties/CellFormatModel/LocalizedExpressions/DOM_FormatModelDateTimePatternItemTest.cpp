@@ -6,7 +6,7 @@
 
 #include <boost/functional/hash.hpp>
 
-namespace QN::DOM::CellFormatModel {
+namespace QN::DOM::CellFormatModel::FormatModelDateTimePatternItemTest {
 
 namespace {
 
@@ -54,4 +54,4 @@ TEST(FormatModelDateTimePatternItemTest, PersistsAsTwoBytesWithoutUnderscores)
               "rapidjson internal assertion failure: value is within the range of its type");
 }
 
-} // namespace QN::DOM::CellFormatModel
+} // namespace QN::DOM::CellFormatModel::FormatModelDateTimePatternItemTest
