@@ -51,8 +51,7 @@ private:
     Second _seconds;
     TimeZone _timeZone;
 
-    BOOST_DESCRIBE_CLASS(DateTime, (), (), (),
-                         (_year, _month, _day, _hours, _minutes, _seconds, _timeZone))
+    BOOST_DESCRIBE_CLASS(DateTime, (), (), (), (_year, _month, _day, _hours, _minutes, _seconds, _timeZone))
 };
 
 } // namespace QN::DOM

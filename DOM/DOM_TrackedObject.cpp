@@ -37,9 +37,18 @@ template class TrackedObject<std::shared_ptr<const RunProps>>;
 template class TrackedObject<std::shared_ptr<const ParaProps>>;
 
 #define QN_DEFINE_VALUE_ALGEBRA(Class)                                                                       \
-    void override(Class& target, const Class& other) { overrideMember(target.getValue(), other.getValue()); } \
-    void exclude(Class& target, const Class& other) { excludeMember(target.getValue(), other.getValue()); }  \
-    void intersect(Class& target, const Class& other) { intersectMember(target.getValue(), other.getValue()); }
+    void override(Class& target, const Class& other)                                                         \
+    {                                                                                                        \
+        overrideMember(target.getValue(), other.getValue());                                                 \
+    }                                                                                                        \
+    void exclude(Class& target, const Class& other)                                                          \
+    {                                                                                                        \
+        excludeMember(target.getValue(), other.getValue());                                                  \
+    }                                                                                                        \
+    void intersect(Class& target, const Class& other)                                                        \
+    {                                                                                                        \
+        intersectMember(target.getValue(), other.getValue());                                                \
+    }
 
 #define QN_DEFINE_VALUE_REBASE(Class)                                                                        \
     void rebaseProperty(Class& target, const Class& replacement, const Class& left, const Class& right)      \

@@ -36,10 +36,12 @@ std::unique_ptr<Document> makeDocument()
     for (int index = 0; index < Paragraphs; ++index) {
         auto paragraph = std::make_unique<Paragraph>();
         ParagraphStyle paragraphStyle;
-        paragraphStyle.setParentUUID(makePredefinedTextStyleUUID(static_cast<PredefinedStyleName>(random() % 6)));
+        paragraphStyle.setParentUUID(
+            makePredefinedTextStyleUUID(static_cast<PredefinedStyleName>(random() % 6)));
         paragraph->getSharedStyle() = document->getSharedObjectFactory().create(paragraphStyle);
         for (int run = 0; run < RunsInParagraph; ++run) {
-            auto text = std::make_unique<TextRun>("The quick brown fox " + std::to_string(random()) + " jumps. ");
+            auto text =
+                std::make_unique<TextRun>("The quick brown fox " + std::to_string(random()) + " jumps. ");
             if (run == 1) {
                 FontProps font;
                 font.setBold(true);
@@ -102,8 +104,8 @@ void compare(benchmark::State& state, Ours&& ours, Floor&& floor, CleanUp&& clea
     }
     state.counters["ratio"] = oursTotal / floorTotal;
     state.counters["floor_ms"] = floorTotal * 1000 / static_cast<double>(state.iterations());
-    state.counters["MB_per_s"] = static_cast<double>(getText().size()) / 1e6 *
-                                 static_cast<double>(state.iterations()) / oursTotal;
+    state.counters["MB_per_s"] =
+        static_cast<double>(getText().size()) / 1e6 * static_cast<double>(state.iterations()) / oursTotal;
 }
 
 void saveBesideWriter(benchmark::State& state)

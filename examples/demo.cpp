@@ -85,7 +85,8 @@ void edit(Document& document)
         text.getBlocks().erase(text.getBlocks().begin() + static_cast<std::ptrdiff_t>(place.get()));
     }
     auto paragraph = std::make_unique<Paragraph>();
-    paragraph->getRuns().push_back(std::make_unique<TextRun>("This paragraph was added to the loaded document."));
+    paragraph->getRuns().push_back(
+        std::make_unique<TextRun>("This paragraph was added to the loaded document."));
     text.getBlocks().push_back(std::move(paragraph));
 }
 

@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "DOM/DOM.h"
-#include "Utils/Public/Archive/JSONArchives.h"
 #include "Support/StatedStops.h"
+#include "Utils/Public/Archive/JSONArchives.h"
 
 /// Loads any bytes as a document. What loads is copied and compared, unless it holds a table or
 /// a formula, and saved; what was saved must load again and be saved to the same bytes.

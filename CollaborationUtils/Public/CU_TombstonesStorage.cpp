@@ -36,8 +36,8 @@ bool TombstonesStorage::isInside(Gaps::const_iterator gap, std::uint64_t positio
 
 IndexIncludingTombstones TombstonesStorage::convertIndex(IndexExcludingTombstones index) const
 {
-    const auto gap = std::partition_point(_gaps.begin(), _gaps.end(),
-                                          [&](const Gap& candidate) { return candidate.live <= index.get(); });
+    const auto gap = std::partition_point(
+        _gaps.begin(), _gaps.end(), [&](const Gap& candidate) { return candidate.live <= index.get(); });
     return IndexIncludingTombstones(index.get() + getCountBefore(gap));
 }
 
@@ -133,8 +133,7 @@ IndexExcludingTombstones TombstonesStorage::replaceWithTombstone(IndexIncludingT
 IndexExcludingTombstones TombstonesStorage::restoreElement(IndexIncludingTombstones index)
 {
     auto gap = findGap(_gaps, index.get());
-    QN_ASSERT_MESSAGE(isInside(gap, index.get()), "isTombstone(index)",
-                      "Only a tombstone can be restored.");
+    QN_ASSERT_MESSAGE(isInside(gap, index.get()), "isTombstone(index)", "Only a tombstone can be restored.");
     const std::uint64_t live = gap->live;
     const std::uint64_t countBeforeIndex = index.get() - live;
     const bool isFirst = countBeforeIndex == getCountBefore(gap);

@@ -21,13 +21,25 @@
 namespace QN::DOM {
 
 template <class T>
-concept HasOverride = requires(T& target, const T& other) { override(target, other); };
+concept HasOverride = requires(T& target, const T& other)
+{
+    override(target, other);
+};
 template <class T>
-concept HasExclude = requires(T& target, const T& other) { exclude(target, other); };
+concept HasExclude = requires(T& target, const T& other)
+{
+    exclude(target, other);
+};
 template <class T>
-concept HasIntersect = requires(T& target, const T& other) { intersect(target, other); };
+concept HasIntersect = requires(T& target, const T& other)
+{
+    intersect(target, other);
+};
 template <class T>
-concept HasRebase = requires(T& target, const T& other) { rebaseProperty(target, other, other, other); };
+concept HasRebase = requires(T& target, const T& other)
+{
+    rebaseProperty(target, other, other, other);
+};
 
 namespace ResolveDetails {
 
@@ -284,12 +296,14 @@ void rebaseProperty(std::shared_ptr<const V>& target, const std::shared_ptr<cons
 // Whole classes
 
 template <class T>
-concept BlankVariant = requires(const T& value) {
+concept BlankVariant = requires(const T& value)
+{
     []<class... Ts>(const boost::variant<boost::blank, Ts...>&) {}(value);
 };
 
 template <class T>
-concept ConstSharedPtr = requires(const T& value) {
+concept ConstSharedPtr = requires(const T& value)
+{
     []<class V>(const std::shared_ptr<const V>&) {}(value);
 };
 
@@ -365,13 +379,22 @@ void rebaseAllMembers(T& target, const T& replacement, const T& left, const T& r
 } // namespace QN::DOM
 
 #define QN_DEFINE_OVERRIDE(Class)                                                                            \
-    void override(Class& target, const Class& other) { overrideAllMembers(target, other); }
+    void override(Class& target, const Class& other)                                                         \
+    {                                                                                                        \
+        overrideAllMembers(target, other);                                                                   \
+    }
 
 #define QN_DEFINE_EXCLUDE(Class)                                                                             \
-    void exclude(Class& target, const Class& other) { excludeAllMembers(target, other); }
+    void exclude(Class& target, const Class& other)                                                          \
+    {                                                                                                        \
+        excludeAllMembers(target, other);                                                                    \
+    }
 
 #define QN_DEFINE_INTERSECT(Class)                                                                           \
-    void intersect(Class& target, const Class& other) { intersectAllMembers(target, other); }
+    void intersect(Class& target, const Class& other)                                                        \
+    {                                                                                                        \
+        intersectAllMembers(target, other);                                                                  \
+    }
 
 #define QN_DEFINE_REBASE(Class)                                                                              \
     void rebaseProperty(Class& target, const Class& replacement, const Class& left, const Class& right)      \

@@ -44,8 +44,14 @@ public:
         return _paragraphStyles.create(std::move(style));
     }
     SharedStylePtr<RunStyle> create(RunStyle style) const { return _runStyles.create(std::move(style)); }
-    SharedStylePtr<ShapeStyle> create(ShapeStyle style) const { return _shapeStyles.create(std::move(style)); }
-    SharedStylePtr<TableStyle> create(TableStyle style) const { return _tableStyles.create(std::move(style)); }
+    SharedStylePtr<ShapeStyle> create(ShapeStyle style) const
+    {
+        return _shapeStyles.create(std::move(style));
+    }
+    SharedStylePtr<TableStyle> create(TableStyle style) const
+    {
+        return _tableStyles.create(std::move(style));
+    }
     SharedStylePtr<NumberingLevelStyle> create(NumberingLevelStyle style) const
     {
         return _numberingLevelStyles.create(std::move(style));

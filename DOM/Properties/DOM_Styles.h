@@ -71,8 +71,8 @@ private:
     std::shared_ptr<const RunProps> _defaultRunProps;
 
     BOOST_DESCRIBE_CLASS(Styles, (), (), (),
-                         (_textStyles, _tableStyles, _shapeStyles, _defaultParagraphStyle,
-                          _defaultTableStyle, _defaultCellStyle, _defaultParaProps, _defaultRunProps))
+                         (_textStyles, _tableStyles, _shapeStyles, _defaultParagraphStyle, _defaultTableStyle,
+                          _defaultCellStyle, _defaultParaProps, _defaultRunProps))
 };
 
 } // namespace QN::DOM

@@ -15,7 +15,8 @@ public:
     enum class Type : std::uint8_t { Above = 0, Below = 1, EqualOrAbove = 2, EqualOrBelow = 3 };
 
     AboveAverageConditionalFormatOperator() = default;
-    explicit AboveAverageConditionalFormatOperator(Type type, const boost::optional<std::uint8_t>& stdDev = boost::none)
+    explicit AboveAverageConditionalFormatOperator(Type type,
+                                                   const boost::optional<std::uint8_t>& stdDev = boost::none)
         : _type(type), _stdDev(stdDev)
     {
     }

@@ -43,7 +43,8 @@ private:
     ExprPtr _firstArgument;
     ExprPtr _secondArgument;
 
-    BOOST_DESCRIBE_CLASS(BinaryConditionalFormatOperator, (), (), (), (_type, _firstArgument, _secondArgument))
+    BOOST_DESCRIBE_CLASS(BinaryConditionalFormatOperator, (), (), (),
+                         (_type, _firstArgument, _secondArgument))
 };
 
 } // namespace QN::DOM

@@ -71,7 +71,10 @@ struct FirstHyperlink {
         const auto runs = paragraph.getRuns();
         return (runs.empty() ? paragraph.getParaMarkStyle() : runs.front().getStyle()).getHyperlink();
     }
-    std::shared_ptr<const Hyperlink> operator()(const FieldBlock& block) const { return block.getHyperlink(); }
+    std::shared_ptr<const Hyperlink> operator()(const FieldBlock& block) const
+    {
+        return block.getHyperlink();
+    }
 };
 
 } // namespace
@@ -87,7 +90,8 @@ QN_DEFINE_COPY_ASSIGNMENT(Cell)
 Cell::Cell(const Cell& other) : Cell(other, CopyStrategy::Everything) {}
 
 Cell::Cell(const Cell& other, CopyStrategy strategy)
-    : _textWithTombstones(strategy == CopyStrategy::Everything ? other._textWithTombstones : TextWithTombstones()),
+    : _textWithTombstones(strategy == CopyStrategy::Everything ? other._textWithTombstones
+                                                               : TextWithTombstones()),
       _mergeProps(other._mergeProps), _style(other._style), _pivotTable(deepCopy(other._pivotTable))
 {
 }

@@ -28,7 +28,8 @@ struct CellID {
 class DOM_API CellInfo {
 public:
     CellInfo() = default;
-    CellInfo(const Table* table, const Cell* cell, RowIndex row, ColumnIndex column, RowID rowID, ColumnID columnID)
+    CellInfo(const Table* table, const Cell* cell, RowIndex row, ColumnIndex column, RowID rowID,
+             ColumnID columnID)
         : _table(table), _cell(cell), _row(row), _column(column), _rowID(rowID), _columnID(columnID)
     {
     }

@@ -67,7 +67,8 @@ RowID CellRangeIt<IsConst>::getRowID() const
 template <bool IsConst>
 ColumnID CellRangeIt<IsConst>::getColID() const
 {
-    return _dataIndex < _rowEnd ? _table->_chunks[_chunkIndex].data[_dataIndex].colID : _table->getID(_column);
+    return _dataIndex < _rowEnd ? _table->_chunks[_chunkIndex].data[_dataIndex].colID
+                                : _table->getID(_column);
 }
 
 template <bool IsConst>

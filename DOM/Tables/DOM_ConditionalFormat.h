@@ -40,7 +40,8 @@ private:
     ConditionalFormatOperator _operator;
     std::vector<TableRangeByID> _ranges;
 
-    BOOST_DESCRIBE_CLASS(ConditionalFormat, (), (), (), (_styleUUID, _stopCalculateConditions, _operator, _ranges))
+    BOOST_DESCRIBE_CLASS(ConditionalFormat, (), (), (),
+                         (_styleUUID, _stopCalculateConditions, _operator, _ranges))
 };
 
 /// Whether a cell lies in a range of one of the table's live conditional formats. A null one fails the contract

@@ -14,8 +14,9 @@ namespace QN::DOM {
 
 /// The condition of a conditional format. The order of the alternatives is part of the file format.
 using ConditionalFormatOperator =
-    boost::variant<NullaryConditionalFormatOperator, UnaryConditionalFormatOperator, BinaryConditionalFormatOperator,
-                   TextConditionalFormatOperator, TopBottomConditionalFormatOperator,
-                   AboveAverageConditionalFormatOperator, UniquenessConditionalFormatOperator>;
+    boost::variant<NullaryConditionalFormatOperator, UnaryConditionalFormatOperator,
+                   BinaryConditionalFormatOperator, TextConditionalFormatOperator,
+                   TopBottomConditionalFormatOperator, AboveAverageConditionalFormatOperator,
+                   UniquenessConditionalFormatOperator>;
 
 } // namespace QN::DOM

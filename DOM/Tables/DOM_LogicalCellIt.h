@@ -36,7 +36,10 @@ public:
     /// Stops at the end. Constant but for the stored cells that are passed.
     LogicalCellIt& advance(std::uint64_t count);
 
-    bool operator==(const LogicalCellIt& other) const { return _row == other._row && _column == other._column; }
+    bool operator==(const LogicalCellIt& other) const
+    {
+        return _row == other._row && _column == other._column;
+    }
     bool operator<(const LogicalCellIt& other) const
     {
         return _row < other._row || (_row == other._row && _column < other._column);

@@ -15,8 +15,12 @@ CellIndex getRoot(const TableRange& range)
     return {range.getBeginRow(), range.getBeginColumn()};
 }
 
-constexpr auto IsRootedBefore = [](const TableRange& range, const CellIndex& cell) { return getRoot(range) < cell; };
-constexpr auto IsBeforeRoot = [](const CellIndex& cell, const TableRange& range) { return cell < getRoot(range); };
+constexpr auto IsRootedBefore = [](const TableRange& range, const CellIndex& cell) {
+    return getRoot(range) < cell;
+};
+constexpr auto IsBeforeRoot = [](const CellIndex& cell, const TableRange& range) {
+    return cell < getRoot(range);
+};
 
 } // namespace
 
@@ -24,7 +28,8 @@ QN_DEFINE_VALUE(MergedCellsCache)
 
 void MergedCellsCache::mergeCells(const TableRange& range)
 {
-    const auto place = std::lower_bound(_mergedRanges.begin(), _mergedRanges.end(), getRoot(range), IsRootedBefore);
+    const auto place =
+        std::lower_bound(_mergedRanges.begin(), _mergedRanges.end(), getRoot(range), IsRootedBefore);
     if (place != _mergedRanges.end() && getRoot(*place) == getRoot(range)) {
         *place = range;
     } else {
@@ -35,7 +40,8 @@ void MergedCellsCache::mergeCells(const TableRange& range)
 void MergedCellsCache::unmergeCells(RowIndex row, ColumnIndex column)
 {
     const TableRange key(row, RowIndex(MaxRows), column, ColumnIndex(MaxColumns));
-    const auto place = std::lower_bound(_mergedRanges.begin(), _mergedRanges.end(), getRoot(key), IsRootedBefore);
+    const auto place =
+        std::lower_bound(_mergedRanges.begin(), _mergedRanges.end(), getRoot(key), IsRootedBefore);
     if (place != _mergedRanges.end() && getRoot(*place) == getRoot(key)) {
         _mergedRanges.erase(place);
     }

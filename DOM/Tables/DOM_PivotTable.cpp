@@ -16,7 +16,8 @@ namespace {
 template <class Entries>
 bool hasField(const Entries& entries, ColumnID id)
 {
-    return std::any_of(entries.begin(), entries.end(), [&](const auto& entry) { return entry.getFieldID() == id; });
+    return std::any_of(entries.begin(), entries.end(),
+                       [&](const auto& entry) { return entry.getFieldID() == id; });
 }
 
 template <class Entries>
@@ -28,7 +29,8 @@ void eraseField(Entries& entries, ColumnID id)
 template <class Fields>
 auto findField(Fields& fields, ColumnID id)
 {
-    return std::find_if(fields.begin(), fields.end(), [&](const auto& field) { return field.getFieldID() == id; });
+    return std::find_if(fields.begin(), fields.end(),
+                        [&](const auto& field) { return field.getFieldID() == id; });
 }
 
 } // namespace

@@ -100,7 +100,8 @@ private:
     Size2D<unsigned int> _size;
 
     BOOST_DESCRIBE_CLASS(PivotTable, (UUIDable), (), (),
-                         (_range, _rows, _columns, _values, _fields, _fieldCache, _layoutType, _calculatedValues, _size))
+                         (_range, _rows, _columns, _values, _fields, _fieldCache, _layoutType,
+                          _calculatedValues, _size))
 };
 
 } // namespace QN::DOM

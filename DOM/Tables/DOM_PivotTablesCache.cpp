@@ -26,9 +26,10 @@ void PivotTablesCache::addPivot(RowIndex row, ColumnIndex column, const Size2D<u
 
 void PivotTablesCache::removePivot(RowIndex row, ColumnIndex column)
 {
-    const auto range = std::find_if(_pivotRanges.begin(), _pivotRanges.end(), [&](const TableRange& candidate) {
-        return getRoot(candidate) == CellIndex(row, column);
-    });
+    const auto range =
+        std::find_if(_pivotRanges.begin(), _pivotRanges.end(), [&](const TableRange& candidate) {
+            return getRoot(candidate) == CellIndex(row, column);
+        });
     if (range != _pivotRanges.end()) {
         _pivotRanges.erase(range);
     }

@@ -24,7 +24,10 @@ public:
 
     void set(const T& value) { _value = value == getDefault() ? nullptr : std::make_unique<T>(value); }
 
-    friend bool operator==(const RareValue& left, const RareValue& right) { return left.get() == right.get(); }
+    friend bool operator==(const RareValue& left, const RareValue& right)
+    {
+        return left.get() == right.get();
+    }
 
     void serialize(cereal::JSONOutputArchive& archive) const { get().serialize(archive); }
     void serialize(cereal::JSONInputArchive& archive)

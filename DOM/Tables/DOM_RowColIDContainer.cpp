@@ -76,8 +76,9 @@ std::uint64_t RowColIDContainer::getIndex(std::uint64_t id) const
         const auto item = _idToIndex.find(id);
         return item == _idToIndex.end() ? _predefinedIDsCount : item->second;
     }
-    auto range = std::lower_bound(_predefinedIDs.begin(), _predefinedIDs.end(), id,
-                                  [](const IndexIDRange& entry, std::uint64_t value) { return entry.firstID < value; });
+    auto range = std::lower_bound(
+        _predefinedIDs.begin(), _predefinedIDs.end(), id,
+        [](const IndexIDRange& entry, std::uint64_t value) { return entry.firstID < value; });
     if (range != _predefinedIDs.end() && range->firstID == id) {
         return range->index;
     }
@@ -131,7 +132,8 @@ void RowColIDContainer::validate() const
     }
 }
 
-RowColIDContainer::Ranges::const_iterator RowColIDContainer::findPredefinedIdLowerBound(std::uint64_t index) const
+RowColIDContainer::Ranges::const_iterator
+RowColIDContainer::findPredefinedIdLowerBound(std::uint64_t index) const
 {
     return std::lower_bound(_predefinedIDs.begin(), _predefinedIDs.end(), index, IndexIsBelow);
 }

@@ -51,7 +51,8 @@ ID Table::generateID() const
 template RowID Table::generateID<RowID>() const;
 template ColumnID Table::generateID<ColumnID>() const;
 
-void Table::setHeaderRowsCols(RowIndex beginRow, ColumnIndex beginColumn, RowIndex lastRow, ColumnIndex lastColumn)
+void Table::setHeaderRowsCols(RowIndex beginRow, ColumnIndex beginColumn, RowIndex lastRow,
+                              ColumnIndex lastColumn)
 {
     HeaderRowsCols headers;
     headers.setBeginRow(getID(beginRow));

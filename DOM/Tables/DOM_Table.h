@@ -109,7 +109,8 @@ public:
     /// is fixed behaviour. To change a cell that is there, use `getOrCreateCell` and assign to the cell.
     void setCell(RowIndex row, ColumnIndex column, std::unique_ptr<Cell> cell);
     /// Gives the cell merge properties first.
-    void setCell(RowIndex row, ColumnIndex column, std::unique_ptr<Cell> cell, const CellMergeProps& mergeProps);
+    void setCell(RowIndex row, ColumnIndex column, std::unique_ptr<Cell> cell,
+                 const CellMergeProps& mergeProps);
 
     /// Drops the cell with its merged range and its pivot table's area. The extent of the table stays.
     void removeCell(RowIndex row, ColumnIndex column);
@@ -117,7 +118,8 @@ public:
     // Merged cells.
 
     /// Merges the cell with so many rows and columns beyond its own, or undoes that where both counts are 0.
-    void setMergeProps(RowIndex row, ColumnIndex column, std::uint64_t capturedRows, std::uint64_t capturedColumns);
+    void setMergeProps(RowIndex row, ColumnIndex column, std::uint64_t capturedRows,
+                       std::uint64_t capturedColumns);
     /// Nothing for the root of a merged range and for a cell outside all of them.
     boost::optional<CellIndex> getMergedCellRoot(RowIndex row, ColumnIndex column) const;
     boost::optional<TableRange> getMergedRange(RowIndex row, ColumnIndex column) const;
@@ -218,8 +220,10 @@ public:
     boost::optional<RowIndex> resolveRowIndex(const RowReference& reference, bool asEnd) const;
     boost::optional<ColumnIndex> resolveColIndex(const ColumnReference& reference, bool asEnd) const;
     /// The rows from `begin` to `last`, both inclusive, without the removed ones at its ends; nothing when none is left.
-    boost::optional<IndexPair<RowIndex>> resolveRange(const RowReference& begin, const RowReference& last) const;
-    boost::optional<IndexPair<ColumnIndex>> resolveRange(const ColumnReference& begin, const ColumnReference& last) const;
+    boost::optional<IndexPair<RowIndex>> resolveRange(const RowReference& begin,
+                                                      const RowReference& last) const;
+    boost::optional<IndexPair<ColumnIndex>> resolveRange(const ColumnReference& begin,
+                                                         const ColumnReference& last) const;
     bool isInRange(const TableRangeByID& range, const CellIndex& cell) const;
     bool isInRanges(const std::vector<TableRangeByID>& ranges, const CellIndex& cell) const;
 
@@ -288,7 +292,10 @@ public:
 
     const ConditionalFormats& getConditionalFormats() const { return _conditionalFormats; }
     ConditionalFormats& getConditionalFormats() { return _conditionalFormats; }
-    ReadonlyPtrVector<ConditionalFormat> getLiveConditionalFormats() const { return _conditionalFormats.getElements(); }
+    ReadonlyPtrVector<ConditionalFormat> getLiveConditionalFormats() const
+    {
+        return _conditionalFormats.getElements();
+    }
 
     const boost::optional<TableFilterInfo>& getFilterInfo() const { return _filterInfo; }
     boost::optional<TableFilterInfo>& getFilterInfo() { return _filterInfo; }
@@ -297,7 +304,8 @@ public:
     const boost::optional<HeaderRowsCols>& getHeaderRowsCols() const { return _headerRowsCols; }
     void setHeaderRowsCols(boost::optional<HeaderRowsCols> headers) { _headerRowsCols = std::move(headers); }
     /// Stores the identifiers of these rows and columns.
-    void setHeaderRowsCols(RowIndex beginRow, ColumnIndex beginColumn, RowIndex lastRow, ColumnIndex lastColumn);
+    void setHeaderRowsCols(RowIndex beginRow, ColumnIndex beginColumn, RowIndex lastRow,
+                           ColumnIndex lastColumn);
 
     const TableSettings& getTableSettings() const { return _tableSettings; }
     TableSettings& getTableSettings() { return _tableSettings; }
@@ -347,8 +355,10 @@ private:
 
     std::size_t findChunk(RowIndex row) const;
     TableChunk::Boundaries getRowBoundaries(std::size_t chunk, RowIndex row) const;
-    std::size_t getLBCell(const TableChunk& chunk, const TableChunk::Boundaries& boundaries, ColumnIndex column) const;
-    std::size_t getUBCell(const TableChunk& chunk, const TableChunk::Boundaries& boundaries, ColumnIndex column) const;
+    std::size_t getLBCell(const TableChunk& chunk, const TableChunk::Boundaries& boundaries,
+                          ColumnIndex column) const;
+    std::size_t getUBCell(const TableChunk& chunk, const TableChunk::Boundaries& boundaries,
+                          ColumnIndex column) const;
 
     Place findPlace(RowIndex row, ColumnIndex column);
     void insertAt(const Place& place, std::unique_ptr<Cell> cell, ColumnID id);
@@ -388,9 +398,9 @@ private:
 
     BOOST_DESCRIBE_CLASS(Table, (Block, UUIDable), (), (),
                          (_name, _chunks, _rowIDContainer, _colIDContainer, _colsTombstones, _rowsTombstones,
-                          _definedNames, _style, _frames, _rowStyles, _columnStyles, _filterInfo, _headerRowsCols,
-                          _tableSettings, _mergedCellsCache, _pivotTablesCache, _maxChunkSize, _rowsCount, _colsCount,
-                          _conditionalFormats))
+                          _definedNames, _style, _frames, _rowStyles, _columnStyles, _filterInfo,
+                          _headerRowsCols, _tableSettings, _mergedCellsCache, _pivotTablesCache,
+                          _maxChunkSize, _rowsCount, _colsCount, _conditionalFormats))
 };
 
 extern template DOM_API RowID Table::generateID<RowID>() const;

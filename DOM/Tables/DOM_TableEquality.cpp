@@ -34,7 +34,8 @@ auto getSortedStyles(const Table& table, const Styles& styles)
             sorted.emplace_back(index->get(), &style);
         }
     }
-    std::sort(sorted.begin(), sorted.end(), [](const auto& left, const auto& right) { return left.first < right.first; });
+    std::sort(sorted.begin(), sorted.end(),
+              [](const auto& left, const auto& right) { return left.first < right.first; });
     return sorted;
 }
 
@@ -46,13 +47,15 @@ bool areStylesEqualByPosition(const Table& table, const Styles& styles, const Ta
     const auto otherSorted = getSortedStyles(otherTable, otherStyles);
     return std::equal(sorted.begin(), sorted.end(), otherSorted.begin(), otherSorted.end(),
                       [](const auto& left, const auto& right) {
-                          return left.first == right.first && areMembersDeeplyEqual(*left.second, *right.second);
+                          return left.first == right.first &&
+                                 areMembersDeeplyEqual(*left.second, *right.second);
                       });
 }
 
 bool areIDsEqual(const RowColIDContainer& left, const RowColIDContainer& right, std::uint64_t count)
 {
-    if (left.getPredefinedIDs() == right.getPredefinedIDs() && left.getInsertedItems() == right.getInsertedItems()) {
+    if (left.getPredefinedIDs() == right.getPredefinedIDs() &&
+        left.getInsertedItems() == right.getInsertedItems()) {
         return true;
     }
     for (std::uint64_t index = 0; index < count; ++index) {
@@ -103,7 +106,8 @@ bool Table::areEqualWithoutIDs(const Table& other) const
 {
     return getUUID() == other.getUUID() && _name == other._name && _rowsCount == other._rowsCount &&
            _colsCount == other._colsCount && _rowsTombstones == other._rowsTombstones &&
-           _colsTombstones == other._colsTombstones && areMembersDeeplyEqual(_definedNames, other._definedNames) &&
+           _colsTombstones == other._colsTombstones &&
+           areMembersDeeplyEqual(_definedNames, other._definedNames) &&
            areMembersDeeplyEqual(_style, other._style) && _frames == other._frames && areStylesEqual(other) &&
            areCellsEqual(other) && _pivotTablesCache == other._pivotTablesCache;
 }

@@ -10,7 +10,8 @@ namespace {
 
 /// One past the last position from `needed` up to `count` whose identifier has a style; `needed` if there is none.
 template <class Index, class Styles>
-std::uint64_t getEndOfStyled(const Table& table, const Styles& styles, std::uint64_t needed, std::uint64_t count)
+std::uint64_t getEndOfStyled(const Table& table, const Styles& styles, std::uint64_t needed,
+                             std::uint64_t count)
 {
     if (styles.empty()) {
         return needed;
@@ -71,7 +72,8 @@ CellIndex Table::changeSize(RowIndex rows, ColumnIndex columns)
         colsCount = getEndOfStyled<ColumnIndex>(*this, _columnStyles, colsCount, _colsCount);
     }
     // Without merged ranges and pivot tables their last cell is (0, 0), so that one row and one column always stay.
-    for (const CellIndex& last : {_mergedCellsCache.getBottomRightCellIndex(), _pivotTablesCache.getBottomRightCellIndex()}) {
+    for (const CellIndex& last :
+         {_mergedCellsCache.getBottomRightCellIndex(), _pivotTablesCache.getBottomRightCellIndex()}) {
         rowsCount = std::max(rowsCount, last.getRow().get() + 1);
         colsCount = std::max(colsCount, last.getColumn().get() + 1);
     }

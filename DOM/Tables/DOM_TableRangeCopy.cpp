@@ -2,9 +2,10 @@
 
 namespace QN::DOM {
 
-std::unique_ptr<Table>
-Table::getRangeCustomCopy(const Table& source, RowIndex beginRow, ColumnIndex beginColumn, RowIndex endRow,
-                          ColumnIndex endColumn, const CallableRef<Cell::Blocks(const CellInfo&)>& callable)
+std::unique_ptr<Table> Table::getRangeCustomCopy(const Table& source, RowIndex beginRow,
+                                                 ColumnIndex beginColumn, RowIndex endRow,
+                                                 ColumnIndex endColumn,
+                                                 const CallableRef<Cell::Blocks(const CellInfo&)>& callable)
 {
     const TableRange range(beginRow, endRow, beginColumn, endColumn);
     auto copy = std::make_unique<Table>(RowIndex(range.getRowCount()), ColumnIndex(range.getColumnCount()));
@@ -26,7 +27,8 @@ Table::getRangeCustomCopy(const Table& source, RowIndex beginRow, ColumnIndex be
             continue;
         }
         cell->getRawBlocks() = std::move(blocks);
-        copy->setCell(info.getRowIndex() - beginRow.get(), info.getColIndex() - beginColumn.get(), std::move(cell));
+        copy->setCell(info.getRowIndex() - beginRow.get(), info.getColIndex() - beginColumn.get(),
+                      std::move(cell));
     }
     for (RowIndex row = beginRow; row < endRow; ++row) {
         copy->setSharedStyle(source.getSharedStyle(row), row - beginRow.get());

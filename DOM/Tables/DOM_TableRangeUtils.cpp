@@ -13,7 +13,8 @@ TableRangeByID convertToTableRangeByID(const Table& table, const TableRange& ran
             {table.getID(range.getBeginColumn()), table.getID(range.getLastColumn())}};
 }
 
-std::vector<TableRangeByID> convertToTableRangesByID(const Table& table, const std::vector<TableRange>& ranges)
+std::vector<TableRangeByID> convertToTableRangesByID(const Table& table,
+                                                     const std::vector<TableRange>& ranges)
 {
     std::vector<TableRangeByID> converted;
     converted.reserve(ranges.size());
@@ -29,8 +30,8 @@ boost::optional<TableRange> convertToTableRange(const Table& table, const TableR
     if (!columns) {
         return boost::none;
     }
-    const auto rows =
-        table.resolveRange(Table::RowReference(range.getBeginRowID()), Table::RowReference(range.getLastRowID()));
+    const auto rows = table.resolveRange(Table::RowReference(range.getBeginRowID()),
+                                         Table::RowReference(range.getLastRowID()));
     if (!rows) {
         return boost::none;
     }

@@ -33,7 +33,8 @@ boost::optional<Index> resolve(const Table& table, const TombstonesWithIDsStorag
 }
 
 template <class Index>
-boost::optional<std::pair<Index, Index>> makePair(const boost::optional<Index>& begin, const boost::optional<Index>& last)
+boost::optional<std::pair<Index, Index>> makePair(const boost::optional<Index>& begin,
+                                                  const boost::optional<Index>& last)
 {
     if (!begin || !last || *last < *begin) {
         return boost::none;
@@ -111,7 +112,8 @@ boost::optional<Table::FrozenRange> Table::getFrozenRange() const
         }
     }
     if (const auto columnIDs = _headerRowsCols->getColRange()) {
-        if (const auto columns = resolveRange(ColumnReference(*columnIDs->begin), ColumnReference(*columnIDs->last))) {
+        if (const auto columns =
+                resolveRange(ColumnReference(*columnIDs->begin), ColumnReference(*columnIDs->last))) {
             frozen.begin.setColumn(columns->first);
             frozen.size.setWidth(getSize(*columns));
         }

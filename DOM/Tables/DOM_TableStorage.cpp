@@ -11,7 +11,8 @@ namespace QN::DOM {
 
 namespace {
 
-TableRange getCapturedRange(RowIndex row, ColumnIndex column, std::uint64_t capturedRows, std::uint64_t capturedColumns)
+TableRange getCapturedRange(RowIndex row, ColumnIndex column, std::uint64_t capturedRows,
+                            std::uint64_t capturedColumns)
 {
     return {row, row + 1 + capturedRows, column, column + 1 + capturedColumns};
 }
@@ -26,9 +27,9 @@ void checkLimits(RowIndex rowIndex, ColumnIndex colIndex)
 
 std::size_t Table::findChunk(RowIndex row) const
 {
-    const auto behind = std::upper_bound(
-        _chunks.begin(), _chunks.end(), row,
-        [](RowIndex value, const TableChunk& chunk) { return value < chunk.startRowIndex; });
+    const auto behind =
+        std::upper_bound(_chunks.begin(), _chunks.end(), row,
+                         [](RowIndex value, const TableChunk& chunk) { return value < chunk.startRowIndex; });
     return behind == _chunks.begin() ? 0 : static_cast<std::size_t>(behind - _chunks.begin()) - 1;
 }
 
@@ -40,20 +41,22 @@ TableChunk::Boundaries Table::getRowBoundaries(std::size_t chunk, RowIndex row) 
 std::size_t Table::getLBCell(const TableChunk& chunk, const TableChunk::Boundaries& boundaries,
                              ColumnIndex column) const
 {
-    const auto place = std::lower_bound(iteratorAt(chunk.data, boundaries.begin), iteratorAt(chunk.data, boundaries.end), column.get(),
-                                        [&](const CellDataByCol& cell, std::uint64_t value) {
-                                            return _colIDContainer.getIndex(cell.colID.get()) < value;
-                                        });
+    const auto place =
+        std::lower_bound(iteratorAt(chunk.data, boundaries.begin), iteratorAt(chunk.data, boundaries.end),
+                         column.get(), [&](const CellDataByCol& cell, std::uint64_t value) {
+                             return _colIDContainer.getIndex(cell.colID.get()) < value;
+                         });
     return static_cast<std::size_t>(place - chunk.data.begin());
 }
 
 std::size_t Table::getUBCell(const TableChunk& chunk, const TableChunk::Boundaries& boundaries,
                              ColumnIndex column) const
 {
-    const auto place = std::upper_bound(iteratorAt(chunk.data, boundaries.begin), iteratorAt(chunk.data, boundaries.end), column.get(),
-                                        [&](std::uint64_t value, const CellDataByCol& cell) {
-                                            return value < _colIDContainer.getIndex(cell.colID.get());
-                                        });
+    const auto place =
+        std::upper_bound(iteratorAt(chunk.data, boundaries.begin), iteratorAt(chunk.data, boundaries.end),
+                         column.get(), [&](std::uint64_t value, const CellDataByCol& cell) {
+                             return value < _colIDContainer.getIndex(cell.colID.get());
+                         });
     return static_cast<std::size_t>(place - chunk.data.begin());
 }
 
@@ -175,7 +178,8 @@ void Table::setCell(RowIndex row, ColumnIndex column, std::unique_ptr<Cell> cell
     splitChunkIfNeeded(place.chunk);
 }
 
-void Table::setCell(RowIndex row, ColumnIndex column, std::unique_ptr<Cell> cell, const CellMergeProps& mergeProps)
+void Table::setCell(RowIndex row, ColumnIndex column, std::unique_ptr<Cell> cell,
+                    const CellMergeProps& mergeProps)
 {
     derefRequired(cell).setMergeProps(mergeProps);
     setCell(row, column, std::move(cell));
@@ -197,7 +201,8 @@ void Table::removeCell(RowIndex row, ColumnIndex column)
     chunk.lowerOffsetsBehind(relativeRow, 1);
 }
 
-void Table::setMergeProps(RowIndex row, ColumnIndex column, std::uint64_t capturedRows, std::uint64_t capturedColumns)
+void Table::setMergeProps(RowIndex row, ColumnIndex column, std::uint64_t capturedRows,
+                          std::uint64_t capturedColumns)
 {
     if (capturedRows != 0 || capturedColumns != 0) {
         const TableRange range = getCapturedRange(row, column, capturedRows, capturedColumns);

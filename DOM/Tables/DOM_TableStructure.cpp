@@ -27,7 +27,8 @@ typename Styles::mapped_type takeStyle(Styles& styles, ID id)
 
 /// What the removal of a tombstone answers.
 template <class Data>
-Data makeForgotten(TombstonesWithIDsStorage& tombstones, TombstonesWithIDsStorage::IndexIncludingTombstones position)
+Data makeForgotten(TombstonesWithIDsStorage& tombstones,
+                   TombstonesWithIDsStorage::IndexIncludingTombstones position)
 {
     Data data;
     data.id = typename Data::ID(tombstones.getIDByIndex(position).value_or(0));
@@ -42,7 +43,8 @@ Data makeForgotten(TombstonesWithIDsStorage& tombstones, TombstonesWithIDsStorag
 void Table::checkRowID(const RowData& rowData) const
 {
     if (_rowIDContainer.containsInsertedID(rowData.id.get())) {
-        throw BadRowColIDException("Trying to insert row, but row with same ID is already present in a table.");
+        throw BadRowColIDException(
+            "Trying to insert row, but row with same ID is already present in a table.");
     }
 }
 
@@ -141,7 +143,8 @@ void Table::removeRowCells(std::size_t chunkIndex, std::size_t relativeRow, RowD
     const auto end = iteratorAt(chunk.data, boundaries.end);
     removed.cells.reserve(boundaries.end - boundaries.begin);
     for (auto cell = begin; cell != end; ++cell) {
-        removed.cells.emplace_back(ColumnIndex(_colIDContainer.getIndex(cell->colID.get())), std::move(cell->cell));
+        removed.cells.emplace_back(ColumnIndex(_colIDContainer.getIndex(cell->colID.get())),
+                                   std::move(cell->cell));
     }
     chunk.data.erase(begin, end);
     chunk.lowerOffsetsBehind(relativeRow, removed.cells.size());
@@ -180,7 +183,8 @@ RowData Table::replaceRowWithTombstone(IndexIncludingTombstones position)
 void Table::checkColumnID(const ColumnData& columnData) const
 {
     if (_colIDContainer.containsInsertedID(columnData.id.get())) {
-        throw BadRowColIDException("Trying to insert column, but column with same ID is already present in a table.");
+        throw BadRowColIDException(
+            "Trying to insert column, but column with same ID is already present in a table.");
     }
 }
 
@@ -258,7 +262,8 @@ void Table::removeColumnCells(TableChunk& chunk, ColumnIndex index, ColumnData& 
     }
     auto target = iteratorAt(chunk.data, places.front());
     for (std::size_t gap = 0; gap < places.size(); ++gap) {
-        const auto next = gap + 1 < places.size() ? iteratorAt(chunk.data, places[gap + 1]) : chunk.data.end();
+        const auto next =
+            gap + 1 < places.size() ? iteratorAt(chunk.data, places[gap + 1]) : chunk.data.end();
         target = std::move(iteratorAt(chunk.data, places[gap] + 1), next, target);
     }
     chunk.data.erase(target, chunk.data.end());

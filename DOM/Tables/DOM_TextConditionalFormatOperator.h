@@ -23,8 +23,13 @@ public:
     enum class Type : std::uint8_t { ContainsText = 0, NotContainsText = 1, BeginsWith = 2, EndsWith = 3 };
 
     TextConditionalFormatOperator() = default;
-    TextConditionalFormatOperator(Type type, std::string argument) : _type(type), _argument(std::move(argument)) {}
-    TextConditionalFormatOperator(Type type, ExprPtr argument) : _type(type), _argument(std::move(argument)) {}
+    TextConditionalFormatOperator(Type type, std::string argument)
+        : _type(type), _argument(std::move(argument))
+    {
+    }
+    TextConditionalFormatOperator(Type type, ExprPtr argument) : _type(type), _argument(std::move(argument))
+    {
+    }
     ~TextConditionalFormatOperator() = default;
     QN_DEEP_COPY(TextConditionalFormatOperator)
 

@@ -30,7 +30,10 @@ public:
     boost::optional<std::uint64_t> getIDByIndex(IndexIncludingTombstones index) const;
 
     std::uint64_t getTombstonesCount() const { return _tombstones.getTombstonesCount(); }
-    IndexIncludingTombstones convertIndex(IndexExcludingTombstones index) const { return _tombstones.convertIndex(index); }
+    IndexIncludingTombstones convertIndex(IndexExcludingTombstones index) const
+    {
+        return _tombstones.convertIndex(index);
+    }
     boost::optional<IndexExcludingTombstones> convertIndex(IndexIncludingTombstones index) const
     {
         return _tombstones.convertIndex(index);

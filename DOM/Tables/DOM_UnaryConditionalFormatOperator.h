@@ -26,7 +26,9 @@ public:
     };
 
     UnaryConditionalFormatOperator() = default;
-    UnaryConditionalFormatOperator(Type type, ExprPtr argument) : _type(type), _argument(std::move(argument)) {}
+    UnaryConditionalFormatOperator(Type type, ExprPtr argument) : _type(type), _argument(std::move(argument))
+    {
+    }
     ~UnaryConditionalFormatOperator() = default;
     QN_DEEP_COPY(UnaryConditionalFormatOperator)
 

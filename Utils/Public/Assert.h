@@ -12,7 +12,8 @@ namespace QN {
 [[noreturn]] DOM_API void doFailAssert(const char* file, int line, const char* expression);
 
 /// Writes "file:line: expression: message" to standard error and aborts.
-[[noreturn]] DOM_API void doFailAssert(const char* file, int line, const char* expression, boost::string_ref message);
+[[noreturn]] DOM_API void doFailAssert(const char* file, int line, const char* expression,
+                                       boost::string_ref message);
 
 } // namespace QN
 

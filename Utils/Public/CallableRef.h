@@ -16,9 +16,8 @@ template <class Result, class... Args>
 class CallableRef<Result(Args...)> {
 public:
     template <class Callable>
-        requires(!std::same_as<std::remove_cvref_t<Callable>, CallableRef> &&
-                 std::is_invocable_r_v<Result, Callable&, Args...>)
-    CallableRef(Callable&& callable)
+    requires(!std::same_as<std::remove_cvref_t<Callable>, CallableRef> &&
+             std::is_invocable_r_v<Result, Callable&, Args...>) CallableRef(Callable&& callable)
     {
         using Stored = std::remove_reference_t<Callable>;
         if constexpr (std::is_function_v<std::remove_pointer_t<Stored>>) {

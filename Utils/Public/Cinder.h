@@ -68,7 +68,10 @@ template <class Point>
 class PolyLine {
 public:
     PolyLine() = default;
-    explicit PolyLine(std::vector<Point> points, bool closed = false) : _points(std::move(points)), _closed(closed) {}
+    explicit PolyLine(std::vector<Point> points, bool closed = false)
+        : _points(std::move(points)), _closed(closed)
+    {
+    }
 
     const std::vector<Point>& getPoints() const { return _points; }
     std::vector<Point>& getPoints() { return _points; }

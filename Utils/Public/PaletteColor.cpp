@@ -21,8 +21,9 @@ std::uint64_t hashBytes(const std::string& bytes)
 
 } // namespace
 
-cinder::ColorT<unsigned char> getPaletteColorForString(
-    const std::string& string, boost::const_multi_array_ref<cinder::ColorT<unsigned char>, 1> palette)
+cinder::ColorT<unsigned char>
+getPaletteColorForString(const std::string& string,
+                         boost::const_multi_array_ref<cinder::ColorT<unsigned char>, 1> palette)
 {
     QN_ASSERT(!palette.empty());
     return palette.data()[hashBytes(string) % palette.num_elements()];

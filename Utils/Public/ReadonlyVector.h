@@ -93,11 +93,7 @@ public:
     explicit Iterator(Items item) : _item(item) {}
 
     reference operator*() const { return Functor{}(*_item); }
-    pointer operator->() const
-        requires std::is_reference_v<reference>
-    {
-        return std::addressof(**this);
-    }
+    pointer operator->() const requires std::is_reference_v<reference> { return std::addressof(**this); }
     reference operator[](difference_type distance) const { return Functor{}(_item[distance]); }
 
     Iterator& operator++()
@@ -127,7 +123,10 @@ public:
     friend Iterator operator+(Iterator left, difference_type right) { return left += right; }
     friend Iterator operator+(difference_type left, Iterator right) { return right += left; }
     friend Iterator operator-(Iterator left, difference_type right) { return left -= right; }
-    friend difference_type operator-(const Iterator& left, const Iterator& right) { return left._item - right._item; }
+    friend difference_type operator-(const Iterator& left, const Iterator& right)
+    {
+        return left._item - right._item;
+    }
 
     friend bool operator==(const Iterator& left, const Iterator& right) { return left._item == right._item; }
     friend std::strong_ordering operator<=>(const Iterator& left, const Iterator& right)

@@ -23,7 +23,8 @@ template <class... Bs>
 class BasesInitializer;
 
 template <>
-class BasesInitializer<> {};
+class BasesInitializer<> {
+};
 
 template <class B>
 class BasesInitializer<B> : public BaseInitializer<B> {

@@ -84,11 +84,13 @@ UUID::UUID(boost::string_ref text)
 UUID UUID::generate()
 {
     // Version 4, variant 1: the fixed bits alone keep the value from being nil.
-    return Environment::processWithRandomNumberGenerator<UUID>([](Environment::RandomNumberGenerator& generator) {
-        const std::uint64_t high = generator();
-        const std::uint64_t low = generator();
-        return UUID((high & 0xffffffffffff0fffU) | 0x4000U, (low & 0x3fffffffffffffffU) | 0x8000000000000000U);
-    });
+    return Environment::processWithRandomNumberGenerator<UUID>(
+        [](Environment::RandomNumberGenerator& generator) {
+            const std::uint64_t high = generator();
+            const std::uint64_t low = generator();
+            return UUID((high & 0xffffffffffff0fffU) | 0x4000U,
+                        (low & 0x3fffffffffffffffU) | 0x8000000000000000U);
+        });
 }
 
 UUID UUID::combine(const UUID& other) const

@@ -112,8 +112,7 @@ using TypesOf =
 /// A visitor over the family of `Visited` that calls the functor with the concrete object. A functor that does not
 /// take some class leaves the visit without a result.
 template <class Visited, class StaticVisitor, class Result>
-class Helper final
-    : public HelperLink<Visited, StaticVisitor, Result, TypesOf<Visited>, TypesOf<Visited>> {
+class Helper final : public HelperLink<Visited, StaticVisitor, Result, TypesOf<Visited>, TypesOf<Visited>> {
 public:
     using HelperLink<Visited, StaticVisitor, Result, TypesOf<Visited>, TypesOf<Visited>>::HelperLink;
 };
@@ -167,8 +166,7 @@ struct HeadVisitor {
 template <class Result, class Root, class Functors>
 Result visitBoth(const Root& first, const Root& second, const Functors& functors)
 {
-    return visit<Result>(second,
-                         MultiVisitDetails::HeadVisitor<Functors, Root, Result>{&functors, first});
+    return visit<Result>(second, MultiVisitDetails::HeadVisitor<Functors, Root, Result>{&functors, first});
 }
 
 } // namespace QN

@@ -44,8 +44,8 @@ std::string toCss(const Color& color)
 {
     std::ostringstream css;
     if (const auto* const literal = boost::get<cinder::ColorAT<unsigned char>>(&color.getValue())) {
-        css << "rgba(" << +literal->r << ',' << +literal->g << ',' << +literal->b << ',' << +literal->a / 255.0
-            << ')';
+        css << "rgba(" << +literal->r << ',' << +literal->g << ',' << +literal->b << ','
+            << +literal->a / 255.0 << ')';
     } else {
         css << "inherit";
     }
@@ -117,8 +117,8 @@ public:
     void write()
     {
         const std::string title = _document.getProps().getTitle().value_or("A document");
-        _out << "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n<title>" << escape(title)
-             << "</title>\n<style>\n"
+        _out << "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n<title>"
+             << escape(title) << "</title>\n<style>\n"
              << "body{max-width:42em;margin:2em auto;padding:0 1em;background:#fdfdfb}\n"
              << "p,h1,h2,h3,h4,h5{margin:0 0 .6em 0;line-height:1.4;font-weight:inherit;tab-size:8;"
              << "white-space:pre-wrap}\n";

@@ -26,8 +26,8 @@ public:
         const std::size_t level = takeHeadingMark(line);
         if (level != 0) {
             const bool isTitle = level == 1 && _document.getBlocks().empty();
-            setParent(*paragraph, isTitle ? PredefinedStyleName::Title
-                                          : static_cast<PredefinedStyleName>(level));
+            setParent(*paragraph,
+                      isTitle ? PredefinedStyleName::Title : static_cast<PredefinedStyleName>(level));
         }
         appendRuns(line, *paragraph);
         _document.getBlocks().push_back(std::move(paragraph));

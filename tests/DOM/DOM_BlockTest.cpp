@@ -124,9 +124,9 @@ TEST(DOM_Block, ALoadedBlockHasATokenOfItsOwn)
 
 TEST(DOM_Block, ANameOfAnotherFamilyIsRefused)
 {
-    const std::string message = loadError<Blocks>(
-        R"({"object":[{"polymorphic_id":2147483649,"polymorphic_name":"QN::DOM::TabRun",)"
-        R"("ptr_wrapper":{"valid":1,"data":{"value0":{"_style":{"id":0}}}}}]})");
+    const std::string message =
+        loadError<Blocks>(R"({"object":[{"polymorphic_id":2147483649,"polymorphic_name":"QN::DOM::TabRun",)"
+                          R"("ptr_wrapper":{"valid":1,"data":{"value0":{"_style":{"id":0}}}}}]})");
     EXPECT_EQ(message, "Trying to load a registered polymorphic type with an unregistered polymorphic cast.\n"
                        "Could not find a path to a base class (QN::DOM::Block) for type: QN::DOM::TabRun");
 }

@@ -12,12 +12,11 @@ using namespace QN::Test;
 
 DateTime makeDateTime(int year, int month, int day, int hours, int minutes, int seconds, int offset)
 {
-    return DateTime(DateTime::Year(static_cast<std::uint16_t>(year)),
-                    DateTime::Month(static_cast<std::uint8_t>(month)),
-                    DateTime::Day(static_cast<std::uint8_t>(day)),
-                    DateTime::Hour(static_cast<std::uint8_t>(hours)),
-                    DateTime::Minute(static_cast<std::uint8_t>(minutes)),
-                    DateTime::Second(static_cast<std::uint8_t>(seconds)), TimeZone(offset));
+    return DateTime(
+        DateTime::Year(static_cast<std::uint16_t>(year)), DateTime::Month(static_cast<std::uint8_t>(month)),
+        DateTime::Day(static_cast<std::uint8_t>(day)), DateTime::Hour(static_cast<std::uint8_t>(hours)),
+        DateTime::Minute(static_cast<std::uint8_t>(minutes)),
+        DateTime::Second(static_cast<std::uint8_t>(seconds)), TimeZone(offset));
 }
 
 TEST(DOM_DateTime, IsAllZeroByDefault)

@@ -23,9 +23,10 @@ DocumentProperties makeFullProperties()
 
 TEST(DOM_DocumentProperties, SayNothingByDefault)
 {
-    EXPECT_EQ(toJson(DocumentProperties()),
-              R"({"_category":{"hasValue":false},"_contentStatus":{"hasValue":false},)"
-              R"("_description":{"hasValue":false},"_language":{"hasValue":false},"_title":{"hasValue":false}})");
+    EXPECT_EQ(
+        toJson(DocumentProperties()),
+        R"({"_category":{"hasValue":false},"_contentStatus":{"hasValue":false},)"
+        R"("_description":{"hasValue":false},"_language":{"hasValue":false},"_title":{"hasValue":false}})");
 }
 
 TEST(DOM_DocumentProperties, HoldWhatIsSet)
@@ -44,9 +45,9 @@ TEST(DOM_DocumentProperties, CompareAllMembers)
     using Setter = void (DocumentProperties::*)(boost::optional<std::string>);
     const DocumentProperties properties = makeFullProperties();
     EXPECT_EQ(properties, makeFullProperties());
-    for (const Setter set :
-         {&DocumentProperties::setCategory, &DocumentProperties::setContentStatus,
-          &DocumentProperties::setDescription, &DocumentProperties::setLanguage, &DocumentProperties::setTitle}) {
+    for (const Setter set : {&DocumentProperties::setCategory, &DocumentProperties::setContentStatus,
+                             &DocumentProperties::setDescription, &DocumentProperties::setLanguage,
+                             &DocumentProperties::setTitle}) {
         DocumentProperties other = properties;
         (other.*set)(std::string("other"));
         EXPECT_NE(other, properties);

@@ -46,7 +46,8 @@ const std::vector<std::function<void(Document&)>>& getChanges()
         [](Document& document) { document.getProps().setTitle(std::string("title")); },
         [](Document& document) { document.getBlocks().push_back(makeParagraph({"text"})); },
         [](Document& document) {
-            document.getTextWithTombstones().getTombstones().replaceWithTombstone(IndexIncludingTombstones(5));
+            document.getTextWithTombstones().getTombstones().replaceWithTombstone(
+                IndexIncludingTombstones(5));
         },
         [](Document& document) { document.getScripts().insertScript("name", "text"); },
         [](Document& document) { document.getStyles().setDefaultParagraphStyleUUID(makeUUID('1')); },
@@ -350,7 +351,8 @@ TEST(DOM_Document, TheContentOfThePoolsInAFileIsIgnoredAndTheirKeyIsNot)
     EXPECT_EQ(fromJson<Document>(full), Document());
 
     json.replace(json.find(key), key.size(), R"("another":{})");
-    EXPECT_EQ(loadError<Document>(json), "JSON Parsing failed - provided NVP (_sharedObjectFactory) not found");
+    EXPECT_EQ(loadError<Document>(json),
+              "JSON Parsing failed - provided NVP (_sharedObjectFactory) not found");
 }
 
 TEST(DOM_Document, AFailedLoadLeavesItPartlyFilled)

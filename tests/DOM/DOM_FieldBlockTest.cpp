@@ -90,7 +90,8 @@ TEST(DOM_FieldBlock, AKindThatDoesNotExistIsRefused)
     const auto makeJson = [](int which) {
         return R"({"value0":{},"_fieldInfo":{"which":)" + std::to_string(which) + R"(,"data":{}}})";
     };
-    EXPECT_EQ(loadError<FieldBlock>(makeJson(6)), "Invalid 'which' selector when deserializing boost::variant");
+    EXPECT_EQ(loadError<FieldBlock>(makeJson(6)),
+              "Invalid 'which' selector when deserializing boost::variant");
     EXPECT_EQ(loadError<FieldBlock>(makeJson(-1)), "Error traversing variant during load");
 }
 

@@ -2,8 +2,8 @@
 
 #include "DOM/DOM.h"
 #include "Support/RandomDocument.h"
-#include "Support/RoundTrip.h"
 #include "Support/Randomize.h"
+#include "Support/RoundTrip.h"
 #include "Support/StatedStops.h"
 
 namespace QN::Test::GeneratedDocumentsTest {

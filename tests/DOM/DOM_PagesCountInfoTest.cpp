@@ -18,8 +18,7 @@ PagesCountInfo makeInfo(NumberFormatType type)
 TEST(DOM_PagesCountInfo, MayNameAFormat)
 {
     EXPECT_FALSE(PagesCountInfo().getNumberFormatType());
-    EXPECT_TRUE(makeInfo(NumberFormatType::LowerRoman).getNumberFormatType() ==
-                NumberFormatType::LowerRoman);
+    EXPECT_TRUE(makeInfo(NumberFormatType::LowerRoman).getNumberFormatType() == NumberFormatType::LowerRoman);
     EXPECT_NE(makeInfo(NumberFormatType::LowerRoman), makeInfo(NumberFormatType::UpperRoman));
     EXPECT_NE(makeInfo(NumberFormatType::Decimal), PagesCountInfo());
     expectCopiesAndMoves(makeInfo(NumberFormatType::LowerRoman));

@@ -16,11 +16,11 @@ using namespace QN::Test;
 
 using Runs = std::vector<std::unique_ptr<Run>>;
 
-static_assert(std::is_same_v<Run::Types, TypeList<TextRun, TabRun, BreakRun, DrawingRun, BookmarkRun,
-                                                  FieldRun, AnchorRun>>);
+static_assert(std::is_same_v<
+              Run::Types, TypeList<TextRun, TabRun, BreakRun, DrawingRun, BookmarkRun, FieldRun, AnchorRun>>);
 
 constexpr std::array<const char*, 7> PersistedNames{
-    "QN::DOM::TextRun",     "QN::DOM::TabRun",   "QN::DOM::BreakRun", "QN::DOM::DrawingRun",
+    "QN::DOM::TextRun",     "QN::DOM::TabRun",   "QN::DOM::BreakRun",  "QN::DOM::DrawingRun",
     "QN::DOM::BookmarkRun", "QN::DOM::FieldRun", "QN::DOM::AnchorRun",
 };
 

@@ -29,8 +29,9 @@ TableOfContentsInfo makeContents()
 
 TEST(DOM_TableOfContentsInfo, SaysNothingByDefault)
 {
-    EXPECT_EQ(toJson(TableOfContentsInfo()),
-              R"({"_outlineLevelsRange":{"hasValue":false},"_headingStylesLevels":[],"_levelsStyleInfo":[]})");
+    EXPECT_EQ(
+        toJson(TableOfContentsInfo()),
+        R"({"_outlineLevelsRange":{"hasValue":false},"_headingStylesLevels":[],"_levelsStyleInfo":[]})");
 }
 
 TEST(DOM_TableOfContentsInfo, WritesItsMembersWithTheLevelsInOrder)
@@ -41,8 +42,8 @@ TEST(DOM_TableOfContentsInfo, WritesItsMembersWithTheLevelsInOrder)
                   makeUUIDJson('1') + R"(,"level":0},{"uuid":)" + makeUUIDJson('2') +
                   R"(,"level":1},{"uuid":)" + makeUUIDJson('1') +
                   R"(,"level":2}],"_levelsStyleInfo":[{"key":0,"value":)" + toJson(Decoration()) +
-                  R"(},{"key":1,"value":)" +
-                  toJson(Decoration(makeUUID('3'), TabStopLeader::Dot, false)) + "}]}");
+                  R"(},{"key":1,"value":)" + toJson(Decoration(makeUUID('3'), TabStopLeader::Dot, false)) +
+                  "}]}");
 }
 
 TEST(DOM_TableOfContentsInfo, Persists)

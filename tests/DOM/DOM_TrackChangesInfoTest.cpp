@@ -37,11 +37,10 @@ TEST(DOM_TrackChangesInfo, HoldsWhatIsSet)
 
 TEST(DOM_TrackChangesInfo, ComparesAuthorAndThenDate)
 {
-    expectAscending({TrackChangesInfo(), TrackChangesInfo(boost::none, makeDay(1)),
-                     TrackChangesInfo(UserInfo("a", ""), boost::none),
-                     TrackChangesInfo(UserInfo("a", ""), makeDay(1)),
-                     TrackChangesInfo(UserInfo("a", ""), makeDay(2)),
-                     TrackChangesInfo(UserInfo("b", ""), boost::none)});
+    expectAscending(
+        {TrackChangesInfo(), TrackChangesInfo(boost::none, makeDay(1)),
+         TrackChangesInfo(UserInfo("a", ""), boost::none), TrackChangesInfo(UserInfo("a", ""), makeDay(1)),
+         TrackChangesInfo(UserInfo("a", ""), makeDay(2)), TrackChangesInfo(UserInfo("b", ""), boost::none)});
 }
 
 TEST(DOM_TrackChangesInfo, OneAuthorAtTwoDatesIsTheSameWithoutTheDate)

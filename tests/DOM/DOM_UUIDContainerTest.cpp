@@ -168,7 +168,8 @@ TEST(DOM_UUIDContainer, AKeyThatDiffersFromTheIdentityOfItsElementStaysAsItStand
 }
 
 template <class T>
-class DOM_UUIDContainerOf : public testing::Test {};
+class DOM_UUIDContainerOf : public testing::Test {
+};
 
 using ElementTypes =
     testing::Types<HeaderFooterPair, Comment, Note, NamedTextStyle, NamedTableStyle, NamedShapeStyle>;

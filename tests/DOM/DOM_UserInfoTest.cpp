@@ -45,7 +45,8 @@ TEST(DOM_UserInfo, HoldsANameAndAnAddress)
 
 TEST(DOM_UserInfo, ComparesNameAndThenAddress)
 {
-    expectAscending({UserInfo(), UserInfo("a", ""), UserInfo("a", "x"), UserInfo("a", "y"), UserInfo("b", "")});
+    expectAscending(
+        {UserInfo(), UserInfo("a", ""), UserInfo("a", "x"), UserInfo("a", "y"), UserInfo("b", "")});
 }
 
 TEST(DOM_UserInfo, ReadsAsNameAndAddress)
@@ -67,8 +68,9 @@ TEST(DOM_UserInfo, IsReadFromNameAndAddress)
 
 TEST(DOM_UserInfo, ATextWithoutAnAddressIsANameAsAWhole)
 {
-    for (const std::string text : {"Jane Roe", "Jane <example.org>", "Jane<jane@example.org>", "Jane <@example.org>",
-                                   "Jane <jane@>", "Jane <jane@example.org> ", "Jane <jane@example.org", " "}) {
+    for (const std::string text :
+         {"Jane Roe", "Jane <example.org>", "Jane<jane@example.org>", "Jane <@example.org>", "Jane <jane@>",
+          "Jane <jane@example.org> ", "Jane <jane@example.org", " "}) {
         EXPECT_EQ(UserInfo::fromString(text), UserInfo(text, "")) << text;
     }
 }

@@ -14,6 +14,7 @@
 #include "DOM/DOM_TabRun.h"
 #include "DOM/DOM_TextRun.h"
 #include "DOM/Properties/DOM_SharedObjectFactory.h"
+#include "DOM/ValueChecks.h"
 #include "Support/Clones.h"
 
 /// Small pieces of text for the tests of what holds them.
@@ -75,9 +76,8 @@ inline std::vector<std::unique_ptr<DOM::Run>> makeOneRunOfEachKind()
     return runs;
 }
 
-/// The JSON texts of a null handle and of an absent optional.
+/// The JSON text of a null handle.
 inline constexpr const char* NullHandleJson = R"({"id":0})";
-inline constexpr const char* AbsentJson = R"({"hasValue":false})";
 
 /// The JSON text of the base of a run without a style.
 inline constexpr const char* PlainRunJson = R"("value0":{"_style":{"id":0}})";

@@ -13,6 +13,9 @@
 
 namespace QN::Test {
 
+/// The JSON text of an absent optional.
+inline constexpr const char* AbsentJson = R"({"hasValue":false})";
+
 /// A copy, also where one is not needed but to be looked at.
 template <class T>
 T makeCopy(const T& value)

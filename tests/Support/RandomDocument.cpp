@@ -130,14 +130,13 @@ template <class T>
 struct Randomize<DOM::SharedStyle<T>> {
     static void apply(DOM::SharedStyle<T>& value, Random& random)
     {
-        forEachMember<DOM::SharedStyle<T>>(
-            [&](auto member) { randomize(value.*member.pointer, random); });
+        forEachMember<DOM::SharedStyle<T>>([&](auto member) { randomize(value.*member.pointer, random); });
     }
 };
 
 /// An operator or call without an operand cannot be copied.
 template <class T>
-    requires std::is_base_of_v<DOM::FormulaSyntaxTree::BaseCompoundExpr, T>
+requires std::is_base_of_v<DOM::FormulaSyntaxTree::BaseCompoundExpr, T>
 struct Randomize<T> {
     using ExprPtr = DOM::FormulaSyntaxTree::ExprPtr;
 

@@ -101,8 +101,7 @@ void forEachMissingMember(const std::string& json,
         bool isDone = false;
         forEachObject(document, [&](Value& object) {
             if (!isDone && removed < passed + object.MemberCount()) {
-                const auto member =
-                    object.MemberBegin() + static_cast<std::ptrdiff_t>(removed - passed);
+                const auto member = object.MemberBegin() + static_cast<std::ptrdiff_t>(removed - passed);
                 key.assign(member->name.GetString(), member->name.GetStringLength());
                 object.EraseMember(member);
                 isDone = true;

@@ -27,7 +27,10 @@ void forEachMissingMember(const std::string& json,
 
 /// Whether a class writes its own keys into the root object; other values are written under the key "object".
 template <class T>
-concept HasKeys = requires(T& value, cereal::JSONInputArchive& archive) { value.serialize(archive); };
+concept HasKeys = requires(T& value, cereal::JSONInputArchive& archive)
+{
+    value.serialize(archive);
+};
 
 template <class T>
 std::string toJson(const T& value)

@@ -7,7 +7,12 @@
 namespace QN::DOM {
 
 /// A condition without parameter. Other numbers pass through uninterpreted.
-enum class NullaryConditionTableFilterOperator : std::uint8_t { Empty = 0, NotEmpty = 1, AboveAverage = 2, BelowAverage = 3 };
+enum class NullaryConditionTableFilterOperator : std::uint8_t {
+    Empty = 0,
+    NotEmpty = 1,
+    AboveAverage = 2,
+    BelowAverage = 3
+};
 
 /// Shows the rows whose value in a column meets a condition without parameter.
 class DOM_API NullaryConditionTableFilter final : public Reflectable<ByColumnTableFilter> {

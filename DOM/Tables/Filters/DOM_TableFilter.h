@@ -15,8 +15,8 @@ class CompositeTableFilter;
 /// Says which rows of a sheet are shown. Filters refer to a column by its index. The model stores them and applies none.
 class DOM_API TableFilter : public Clonable<TableFilter>, public Reflectable<> {
 public:
-    using Types =
-        TypeList<ValuesTableFilter, NullaryConditionTableFilter, UnaryConditionTableFilter, CompositeTableFilter>;
+    using Types = TypeList<ValuesTableFilter, NullaryConditionTableFilter, UnaryConditionTableFilter,
+                           CompositeTableFilter>;
     QN_FAMILY_ROOT(TableFilter)
 
     QN_SERIALIZE(TableFilter)

@@ -29,7 +29,8 @@ class DOM_API UnaryConditionTableFilter final : public Reflectable<ByColumnTable
 public:
     UnaryConditionTableFilter() = default;
     explicit UnaryConditionTableFilter(ColumnIndex column) : Reflectable(column) {}
-    UnaryConditionTableFilter(ColumnIndex column, UnaryConditionTableFilterOperator condition, std::string parameter)
+    UnaryConditionTableFilter(ColumnIndex column, UnaryConditionTableFilterOperator condition,
+                              std::string parameter)
         : Reflectable(column), _operator(condition), _parameter(std::move(parameter))
     {
     }

@@ -16,8 +16,10 @@ DOM_API void setBorderPerimeter(BordersProps& borders, const std::shared_ptr<con
 
 // The reset family gives `line` to the named edges and states "no border" at all others, so that no edge stays unset.
 
-DOM_API void setBorderPerimeterAndResetOther(BordersProps& borders, const std::shared_ptr<const LineProps>& line);
-DOM_API void setBorderBottomAndResetOther(BordersProps& borders, const std::shared_ptr<const LineProps>& line);
+DOM_API void setBorderPerimeterAndResetOther(BordersProps& borders,
+                                             const std::shared_ptr<const LineProps>& line);
+DOM_API void setBorderBottomAndResetOther(BordersProps& borders,
+                                          const std::shared_ptr<const LineProps>& line);
 DOM_API void setBorderLeftAndResetOther(BordersProps& borders, const std::shared_ptr<const LineProps>& line);
 DOM_API void setBorderRightAndResetOther(BordersProps& borders, const std::shared_ptr<const LineProps>& line);
 DOM_API void setBorderTopAndResetOther(BordersProps& borders, const std::shared_ptr<const LineProps>& line);

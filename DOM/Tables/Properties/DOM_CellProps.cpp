@@ -13,7 +13,8 @@ QN_DEFINE_ALGEBRA(CellProps)
 
 namespace {
 
-std::shared_ptr<const CellProps> makeDefaultProps(float sideMargin, VerticalAlignment alignment, TextLayout layout)
+std::shared_ptr<const CellProps> makeDefaultProps(float sideMargin, VerticalAlignment alignment,
+                                                  TextLayout layout)
 {
     auto margins = std::make_shared<Insets>();
     margins->setLeft(sideMargin);

@@ -42,7 +42,10 @@ public:
     void setFill(std::shared_ptr<const Fill> fill) { _fill = std::move(fill); }
 
     const boost::optional<VerticalAlignment>& getVerticalAlignment() const { return _verticalAlignment; }
-    void setVerticalAlignment(const boost::optional<VerticalAlignment>& alignment) { _verticalAlignment = alignment; }
+    void setVerticalAlignment(const boost::optional<VerticalAlignment>& alignment)
+    {
+        _verticalAlignment = alignment;
+    }
 
     const boost::optional<float>& getWidth() const { return _width; }
     void setWidth(const boost::optional<float>& width) { _width = width; }
@@ -65,7 +68,8 @@ private:
     TextOrientation _textOrientation;
 
     BOOST_DESCRIBE_CLASS(CellProps, (), (), (),
-                         (_borders, _margins, _fill, _verticalAlignment, _width, _textLayout, _textOrientation))
+                         (_borders, _margins, _fill, _verticalAlignment, _width, _textLayout,
+                          _textOrientation))
 };
 
 QN_DECLARE_ALGEBRA(CellProps)

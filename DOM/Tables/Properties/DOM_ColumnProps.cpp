@@ -25,8 +25,8 @@ void ColumnPropsImpl<Trait>::serialize(cereal::JSONOutputArchive& archive) const
 }
 
 template <MemberTrait Trait>
-void ColumnPropsImpl<Trait>::serialize(cereal::JSONInputArchive& archive)
-    requires(Trait == MemberTrait::OptionalMembers)
+void ColumnPropsImpl<Trait>::serialize(cereal::JSONInputArchive& archive) requires(
+    Trait == MemberTrait::OptionalMembers)
 {
     loadMembers(archive, *this);
 }

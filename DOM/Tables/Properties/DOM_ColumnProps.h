@@ -36,10 +36,8 @@ public:
     QN_EQUALITY(ColumnPropsImpl)
     QN_ORDER(ColumnPropsImpl)
 
-    void serialize(cereal::JSONOutputArchive& archive) const
-        requires(Trait == MemberTrait::OptionalMembers);
-    void serialize(cereal::JSONInputArchive& archive)
-        requires(Trait == MemberTrait::OptionalMembers);
+    void serialize(cereal::JSONOutputArchive& archive) const requires(Trait == MemberTrait::OptionalMembers);
+    void serialize(cereal::JSONInputArchive& archive) requires(Trait == MemberTrait::OptionalMembers);
 
 private:
     Flag _isHidden{};

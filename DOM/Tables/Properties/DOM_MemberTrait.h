@@ -12,7 +12,8 @@
 namespace QN::DOM {
 
 enum class MemberTrait : std::uint8_t {
-    OptionalMembers = 0, ///< a partial set: each member may be absent; the form that styles hold and files state
+    OptionalMembers =
+        0, ///< a partial set: each member may be absent; the form that styles hold and files state
     RequiredMembers = 1, ///< fully resolved: each member has a value
 };
 

@@ -24,8 +24,8 @@ void RowHeightImpl<Trait>::serialize(cereal::JSONOutputArchive& archive) const
 }
 
 template <MemberTrait Trait>
-void RowHeightImpl<Trait>::serialize(cereal::JSONInputArchive& archive)
-    requires(Trait == MemberTrait::OptionalMembers)
+void RowHeightImpl<Trait>::serialize(cereal::JSONInputArchive& archive) requires(Trait ==
+                                                                                 MemberTrait::OptionalMembers)
 {
     loadMembers(archive, *this);
 }

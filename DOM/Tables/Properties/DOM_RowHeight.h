@@ -29,10 +29,8 @@ public:
     QN_EQUALITY(RowHeightImpl)
     QN_ORDER(RowHeightImpl)
 
-    void serialize(cereal::JSONOutputArchive& archive) const
-        requires(Trait == MemberTrait::OptionalMembers);
-    void serialize(cereal::JSONInputArchive& archive)
-        requires(Trait == MemberTrait::OptionalMembers);
+    void serialize(cereal::JSONOutputArchive& archive) const requires(Trait == MemberTrait::OptionalMembers);
+    void serialize(cereal::JSONInputArchive& archive) requires(Trait == MemberTrait::OptionalMembers);
 
 private:
     Value _value{};

@@ -25,8 +25,8 @@ void RowPropsImpl<Trait>::serialize(cereal::JSONOutputArchive& archive) const
 }
 
 template <MemberTrait Trait>
-void RowPropsImpl<Trait>::serialize(cereal::JSONInputArchive& archive)
-    requires(Trait == MemberTrait::OptionalMembers)
+void RowPropsImpl<Trait>::serialize(cereal::JSONInputArchive& archive) requires(Trait ==
+                                                                                MemberTrait::OptionalMembers)
 {
     loadMembers(archive, *this);
 }

@@ -34,10 +34,8 @@ public:
     QN_EQUALITY(RowPropsImpl)
     QN_ORDER(RowPropsImpl)
 
-    void serialize(cereal::JSONOutputArchive& archive) const
-        requires(Trait == MemberTrait::OptionalMembers);
-    void serialize(cereal::JSONInputArchive& archive)
-        requires(Trait == MemberTrait::OptionalMembers);
+    void serialize(cereal::JSONOutputArchive& archive) const requires(Trait == MemberTrait::OptionalMembers);
+    void serialize(cereal::JSONInputArchive& archive) requires(Trait == MemberTrait::OptionalMembers);
 
 private:
     Flag _isHidden{};

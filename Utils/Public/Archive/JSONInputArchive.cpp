@@ -101,9 +101,9 @@ Frame makeArrayFrame(const TapeNode& node)
 template <class T>
 T getInteger(const TapeNode& node, const char* text)
 {
-    const bool fits = (node.kind == TapeNode::Kind::NonNegative && std::in_range<T>(node.payload)) ||
-                      (node.kind == TapeNode::Kind::Negative &&
-                       std::in_range<T>(static_cast<std::int64_t>(node.payload)));
+    const bool fits =
+        (node.kind == TapeNode::Kind::NonNegative && std::in_range<T>(node.payload)) ||
+        (node.kind == TapeNode::Kind::Negative && std::in_range<T>(static_cast<std::int64_t>(node.payload)));
     check(fits, text);
     return static_cast<T>(node.payload);
 }
@@ -279,8 +279,7 @@ void JSONInputArchive::addShared(std::uint32_t id, std::shared_ptr<void> object,
     _impl->shared[id & IdMask] = {std::move(object), &type};
 }
 
-JSONInputArchive::PolymorphicType
-JSONInputArchive::readPolymorphicType(const std::type_info& base)
+JSONInputArchive::PolymorphicType JSONInputArchive::readPolymorphicType(const std::type_info& base)
 {
     std::uint32_t id = 0;
     seek("polymorphic_id");
@@ -301,8 +300,9 @@ JSONInputArchive::readPolymorphicType(const std::type_info& base)
     } else {
         const auto known = _impl->types.find(id);
         if (known == _impl->types.end()) {
-            throw Exception("Error while trying to deserialize a polymorphic pointer. Could not find type id " +
-                            std::to_string(id));
+            throw Exception(
+                "Error while trying to deserialize a polymorphic pointer. Could not find type id " +
+                std::to_string(id));
         }
         entry = known->second;
     }

@@ -197,8 +197,8 @@ void JSONOutputArchive::saveValue(double value)
     }
     reserve(NumberSize);
     char* const begin = _buffer.get() + _size;
-    _size += static_cast<std::size_t>(
-        rapidjson::internal::dtoa(value, begin, _options.decimalPlaces) - begin);
+    _size +=
+        static_cast<std::size_t>(rapidjson::internal::dtoa(value, begin, _options.decimalPlaces) - begin);
 }
 
 void JSONOutputArchive::saveValue(std::string_view value)

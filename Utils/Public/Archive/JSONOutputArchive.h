@@ -1,7 +1,8 @@
 #pragma once
 
 #ifdef CEREAL_ARCHIVES_JSON_HPP_
-#error "libDOM has JSON archives of its own in namespace cereal: do not include <cereal/archives/json.hpp> beside them"
+#error                                                                                                       \
+    "libDOM has JSON archives of its own in namespace cereal: do not include <cereal/archives/json.hpp> beside them"
 #endif
 #define CEREAL_ARCHIVES_JSON_HPP_
 
@@ -129,7 +130,7 @@ public:
     /// Writes "polymorphic_id" and, the first time, "polymorphic_name" of a registered type.
     /// @return what saves the members of an object of that type.
     const OutputTypeEntry& writePolymorphicType(const std::type_info& dynamicType,
-                                                       const std::type_info& base);
+                                                const std::type_info& base);
     /// Writes the keys of an object, given by a pointer to the base for which `writePolymorphicType` found the entry.
     void savePolymorphicData(const OutputTypeEntry& entry, const void* object);
 

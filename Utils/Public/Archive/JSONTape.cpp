@@ -270,8 +270,8 @@ private:
         if (!exponentText.empty()) {
             exponentText.remove_prefix(exponentText.size() > 1 && exponentText[1] == '+' ? 2 : 1);
             const bool isSmall = exponentText.front() == '-';
-            if (std::from_chars(exponentText.data(), exponentText.data() + exponentText.size(), exponent).ec ==
-                std::errc::result_out_of_range) {
+            if (std::from_chars(exponentText.data(), exponentText.data() + exponentText.size(), exponent)
+                    .ec == std::errc::result_out_of_range) {
                 exponent = isSmall ? -Unbounded : Unbounded;
             }
         }

@@ -13,7 +13,17 @@ namespace cereal::detail {
 
 /// One value of a parsed text, or one key of an object.
 struct TapeNode {
-    enum class Kind : std::uint8_t { Null, False, True, NonNegative, Negative, Double, String, Object, Array };
+    enum class Kind : std::uint8_t {
+        Null,
+        False,
+        True,
+        NonNegative,
+        Negative,
+        Double,
+        String,
+        Object,
+        Array
+    };
 
     /// The number, the address of a string's bytes, or how many members or elements follow.
     std::uint64_t payload;

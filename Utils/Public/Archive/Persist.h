@@ -21,9 +21,8 @@ namespace QN {
 template <Described T>
 void saveMembers(cereal::JSONOutputArchive& archive, const T& object)
 {
-    forEachBase<T>([&](auto base) {
-        archive.unnamed(static_cast<const typename decltype(base)::type&>(object));
-    });
+    forEachBase<T>(
+        [&](auto base) { archive.unnamed(static_cast<const typename decltype(base)::type&>(object)); });
     forEachKey<T>([&](auto member) {
         constexpr std::string_view key = decltype(member)::name;
         archive.member(key, object.*member.pointer);
@@ -33,8 +32,7 @@ void saveMembers(cereal::JSONOutputArchive& archive, const T& object)
 template <Described T>
 void loadMembers(cereal::JSONInputArchive& archive, T& object)
 {
-    forEachBase<T>(
-        [&](auto base) { archive.unnamed(static_cast<typename decltype(base)::type&>(object)); });
+    forEachBase<T>([&](auto base) { archive.unnamed(static_cast<typename decltype(base)::type&>(object)); });
     forEachKey<T>([&](auto member) {
         constexpr std::string_view key = decltype(member)::name;
         archive.member(key, object.*member.pointer);
@@ -77,8 +75,8 @@ struct Persist<bool> {
 template <std::integral T>
 struct Persist<T> {
     using Widest = std::conditional_t<std::is_signed_v<T>, std::int64_t, std::uint64_t>;
-    using Read = std::conditional_t<
-        sizeof(T) == 8, Widest, std::conditional_t<std::is_signed_v<T>, std::int32_t, std::uint32_t>>;
+    using Read = std::conditional_t<sizeof(T) == 8, Widest,
+                                    std::conditional_t<std::is_signed_v<T>, std::int32_t, std::uint32_t>>;
 
     static void save(cereal::JSONOutputArchive& archive, T value)
     {
@@ -117,7 +115,7 @@ struct Persist<T> {
 };
 
 template <class T>
-    requires std::is_enum_v<T>
+requires std::is_enum_v<T>
 struct Persist<T> {
     using Number = std::underlying_type_t<T>;
 

@@ -156,7 +156,7 @@ struct Persist<std::shared_ptr<T>> {
 
 /// The polymorphic type, then "ptr_wrapper" with "id" and "data".
 template <class T>
-    requires FamilyMember<std::remove_const_t<T>>
+requires FamilyMember<std::remove_const_t<T>>
 struct Persist<std::shared_ptr<T>> {
     using Object = std::remove_const_t<T>;
 

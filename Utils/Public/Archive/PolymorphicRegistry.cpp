@@ -58,8 +58,8 @@ void throwUnregisteredPolymorphicCastException(const std::type_info& base, const
 {
     throw Exception("Trying to load a registered polymorphic type with an unregistered polymorphic cast.\n"
                     "Could not find a path to a base class (" +
-                    boost::core::demangle(base.name()) + ") for type: " +
-                    boost::core::demangle(derived.name()));
+                    boost::core::demangle(base.name()) +
+                    ") for type: " + boost::core::demangle(derived.name()));
 }
 
 void polymorphicVirtualCasterInit(PolymorphicCaster* caster, const std::type_info& base,

@@ -29,7 +29,8 @@ private:
 };
 
 template <class T>
-class TypeNameProvider : public TypeNameProviderBase {};
+class TypeNameProvider : public TypeNameProviderBase {
+};
 
 // The three tables are exported so that a program's own types are entered in those of the library, and not in copies.
 

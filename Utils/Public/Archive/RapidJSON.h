@@ -16,7 +16,8 @@ namespace cereal::detail {
 } // namespace cereal::detail
 
 #define RAPIDJSON_ASSERT(condition)                                                                          \
-    (__builtin_expect(!!(condition), 1) ? static_cast<void>(0) : ::cereal::detail::throwFailedCheck(#condition))
+    (__builtin_expect(!!(condition), 1) ? static_cast<void>(0)                                               \
+                                        : ::cereal::detail::throwFailedCheck(#condition))
 #define RAPIDJSON_ASSERT_THROWS
 
 #include <rapidjson/document.h>

@@ -25,7 +25,10 @@
     }
 
 #define QN_DEFINE_EQUALITY(Class)                                                                            \
-    bool Class::operator==(const Class& other) const { return ::QN::areAllMembersEqual(*this, other); }
+    bool Class::operator==(const Class& other) const                                                         \
+    {                                                                                                        \
+        return ::QN::areAllMembersEqual(*this, other);                                                       \
+    }
 
 #define QN_DEFINE_ORDER(Class)                                                                               \
     std::partial_ordering Class::compare(const Class& other, ::QN::NanOrder nanOrder) const                  \
@@ -42,12 +45,18 @@
     QN_DEFINE_ORDER(Class)
 
 #define QN_DEFINE_DEEP_COPY(Class)                                                                           \
-    Class::Class(const Class& other) { ::QN::copyAllMembers(*this, other); }                                 \
+    Class::Class(const Class& other)                                                                         \
+    {                                                                                                        \
+        ::QN::copyAllMembers(*this, other);                                                                  \
+    }                                                                                                        \
     QN_DEFINE_COPY_ASSIGNMENT(Class)
 
 /// For a class with a base that is copied by its own copy constructor.
 #define QN_DEFINE_DEEP_COPY_WITH_BASE(Class, ...)                                                            \
-    Class::Class(const Class& other) : __VA_ARGS__(other) { ::QN::copyAllMembers(*this, other); }            \
+    Class::Class(const Class& other) : __VA_ARGS__(other)                                                    \
+    {                                                                                                        \
+        ::QN::copyAllMembers(*this, other);                                                                  \
+    }                                                                                                        \
     QN_DEFINE_COPY_ASSIGNMENT(Class)
 
 #define QN_DEFINE_COPY_ASSIGNMENT(Class)                                                                     \
@@ -61,7 +70,19 @@
     }
 
 #define QN_DEFINE_CONCRETE(Class, Root)                                                                      \
-    void Class::cloneTo(std::shared_ptr<Root>& target) const { target = std::make_shared<Class>(*this); }    \
-    void Class::cloneTo(std::unique_ptr<Root>& target) const { target = std::make_unique<Class>(*this); }    \
-    void Class::accept(Root::Visitor& visitor) { visitor.visit(*this); }                                     \
-    void Class::accept(Root::ConstVisitor& visitor) const { visitor.visit(*this); }
+    void Class::cloneTo(std::shared_ptr<Root>& target) const                                                 \
+    {                                                                                                        \
+        target = std::make_shared<Class>(*this);                                                             \
+    }                                                                                                        \
+    void Class::cloneTo(std::unique_ptr<Root>& target) const                                                 \
+    {                                                                                                        \
+        target = std::make_unique<Class>(*this);                                                             \
+    }                                                                                                        \
+    void Class::accept(Root::Visitor& visitor)                                                               \
+    {                                                                                                        \
+        visitor.visit(*this);                                                                                \
+    }                                                                                                        \
+    void Class::accept(Root::ConstVisitor& visitor) const                                                    \
+    {                                                                                                        \
+        visitor.visit(*this);                                                                                \
+    }

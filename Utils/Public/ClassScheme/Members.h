@@ -39,7 +39,8 @@ template <class List, std::size_t Index>
 struct DescriptorAt;
 
 template <template <class...> class List, class Head, class... Tail, std::size_t Index>
-struct DescriptorAt<List<Head, Tail...>, Index> : DescriptorAt<List<Tail...>, Index - 1> {};
+struct DescriptorAt<List<Head, Tail...>, Index> : DescriptorAt<List<Tail...>, Index - 1> {
+};
 
 template <template <class...> class List, class Head, class... Tail>
 struct DescriptorAt<List<Head, Tail...>, 0> {

@@ -19,8 +19,8 @@
 namespace QN {
 
 template <class T>
-    requires(!std::is_base_of_v<ClonableBase, T>)
-std::partial_ordering compareDeeply(const T& left, const T& right, NanOrder nanOrder);
+requires(!std::is_base_of_v<ClonableBase, T>) std::partial_ordering
+    compareDeeply(const T& left, const T& right, NanOrder nanOrder);
 
 template <Described T>
 std::partial_ordering compareAllMembers(const T& left, const T& right, NanOrder nanOrder);
@@ -91,8 +91,8 @@ struct CompareWithOther {
 
 /// The order of two values of one member.
 template <class T>
-    requires(!std::is_base_of_v<ClonableBase, T>)
-std::partial_ordering compareDeeply(const T& left, const T& right, NanOrder nanOrder)
+requires(!std::is_base_of_v<ClonableBase, T>) std::partial_ordering
+    compareDeeply(const T& left, const T& right, NanOrder nanOrder)
 {
     namespace Details = DefineDeepComparisonDetails;
     if constexpr (std::is_empty_v<T>) {
@@ -161,10 +161,11 @@ std::partial_ordering compareAllMembers(const T& left, const T& right, NanOrder 
             result = static_cast<const Base&>(left).compare(static_cast<const Base&>(right), nanOrder);
         }
         return result == 0;
-    }) && allMembers<T>([&](auto member) {
-        result = compareDeeply(left.*member.pointer, right.*member.pointer, nanOrder);
-        return result == 0;
-    });
+    }) &&
+        allMembers<T>([&](auto member) {
+            result = compareDeeply(left.*member.pointer, right.*member.pointer, nanOrder);
+            return result == 0;
+        });
     return result;
 }
 

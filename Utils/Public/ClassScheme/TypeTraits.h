@@ -50,28 +50,31 @@ concept IsUniquePtr = InstanceOf<T, std::unique_ptr>;
 
 template <class T>
 concept IsPointerLike = IsUniquePtr<T> || InstanceOf<T, std::shared_ptr> ||
-                        InstanceOf<T, boost::intrusive_ptr> || InstanceOf<T, PropagateConstPtr> ||
-                        InstanceOf<T, SharedConstPtr>;
+    InstanceOf<T, boost::intrusive_ptr> || InstanceOf<T, PropagateConstPtr> || InstanceOf<T, SharedConstPtr>;
 
 template <class T>
 concept IsVector = InstanceOf<T, std::vector> || InstanceOf<T, boost::container::vector>;
 
 template <class T>
 concept IsHashMap = InstanceOf<T, boost::unordered_map> || InstanceOf<T, boost::unordered_flat_map> ||
-                    InstanceOf<T, std::unordered_map>;
+    InstanceOf<T, std::unordered_map>;
 
 template <class T>
-concept IsMap = requires(T map) {
+concept IsMap = requires(T map)
+{
     typename T::key_type;
     typename T::mapped_type;
     map.find(std::declval<const typename T::key_type&>());
 };
 
 template <class T>
-concept IsSet = !IsMap<T> && requires { typename T::key_type; };
+concept IsSet = !IsMap<T> && requires
+{
+    typename T::key_type;
+};
 
 template <class T>
-concept IsSequence = (IsVector<T> || IsMap<T> || IsSet<T>) && !IsHashMap<T>;
+concept IsSequence = (IsVector<T> || IsMap<T> || IsSet<T>)&&!IsHashMap<T>;
 
 /// The plain pointer inside a smart pointer.
 template <class Pointer>

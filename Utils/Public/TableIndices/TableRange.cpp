@@ -25,7 +25,8 @@ TableRange::TableRange(RowIndex beginRow, RowIndex endRow, ColumnIndex beginColu
     : _beginRow(beginRow), _endRow(endRow), _beginColumn(beginColumn), _endColumn(endColumn)
 {
     QN_CONTRACT(_beginRow < _endRow, "Utils/Public/TableIndices/TableRange", 229, "_beginRow < _endRow");
-    QN_CONTRACT(_beginColumn < _endColumn, "Utils/Public/TableIndices/TableRange", 230, "_beginColumn < _endColumn");
+    QN_CONTRACT(_beginColumn < _endColumn, "Utils/Public/TableIndices/TableRange", 230,
+                "_beginColumn < _endColumn");
 }
 
 TableRange::TableRange(const CellIndex& begin, const CellIndex& end)

@@ -267,13 +267,15 @@ public:
     bool isTombstone(std::uint64_t index) const { return _isTombstone[index]; }
     std::uint64_t countLiveBefore(std::uint64_t index) const
     {
-        return static_cast<std::uint64_t>(
-            std::count(_isTombstone.begin(), at(index), false));
+        return static_cast<std::uint64_t>(std::count(_isTombstone.begin(), at(index), false));
     }
     void insert(std::uint64_t index) { _isTombstone.insert(at(index), false); }
     void remove(std::uint64_t index) { _isTombstone.erase(at(index)); }
     void set(std::uint64_t index, bool isTombstone) { _isTombstone[index] = isTombstone; }
-    void clear() { _isTombstone.erase(std::remove(_isTombstone.begin(), _isTombstone.end(), true), _isTombstone.end()); }
+    void clear()
+    {
+        _isTombstone.erase(std::remove(_isTombstone.begin(), _isTombstone.end(), true), _isTombstone.end());
+    }
 
 private:
     std::vector<bool>::const_iterator at(std::uint64_t index) const

@@ -17,7 +17,6 @@
 
 namespace QN::Test {
 
-inline constexpr const char* AbsentJson = R"({"hasValue":false})";
 inline constexpr const char* UnsetJson = R"({"value":-1})";
 inline constexpr const char* NullPlainJson = R"({"ptr_wrapper":{"valid":0}})";
 inline constexpr const char* NullSharedJson = R"({"ptr_wrapper":{"id":0}})";

@@ -46,9 +46,10 @@ TEST(DOM_Cell, IsEmptyByDefault)
     EXPECT_EQ(cell.getSharedStyle(), nullptr);
     EXPECT_TRUE(cell.getStyle().isEmpty());
     EXPECT_EQ(cell.getPivotTable(), nullptr);
-    expectText(cell, "{" + EmptyText +
-                         R"(,"_mergeProps":{"_capturedRowsCount":0,"_capturedColsCount":0},"_style":{"id":0},)"
-                         R"("_pivotTable":{"ptr_wrapper":{"valid":0}}})");
+    expectText(cell,
+               "{" + EmptyText +
+                   R"(,"_mergeProps":{"_capturedRowsCount":0,"_capturedColsCount":0},"_style":{"id":0},)"
+                   R"("_pivotTable":{"ptr_wrapper":{"valid":0}}})");
 }
 
 TEST(DOM_Cell, WritesItsPivotTableAsAPlainPointer)
@@ -56,10 +57,11 @@ TEST(DOM_Cell, WritesItsPivotTableAsAPlainPointer)
     Cell cell;
     cell.setMergeProps(CellMergeProps(1, 2));
     cell.setPivotTable(makePivotTable(1, 1));
-    expectText(cell, "{" + EmptyText +
-                         R"(,"_mergeProps":{"_capturedRowsCount":1,"_capturedColsCount":2},"_style":{"id":0},)"
-                         R"("_pivotTable":{"ptr_wrapper":{"valid":1,"data":)" +
-                         toText(*std::as_const(cell).getPivotTable()) + "}}}");
+    expectText(cell,
+               "{" + EmptyText +
+                   R"(,"_mergeProps":{"_capturedRowsCount":1,"_capturedColsCount":2},"_style":{"id":0},)"
+                   R"("_pivotTable":{"ptr_wrapper":{"valid":1,"data":)" +
+                   toText(*std::as_const(cell).getPivotTable()) + "}}}");
 }
 
 TEST(DOM_Cell, PersistsWithEverythingSet)
@@ -178,10 +180,12 @@ TEST(DOM_Cell, HoldsWhatItsSingleFieldBlockHolds)
 
 TEST(DOM_Cell, AnswersItsValues)
 {
-    EXPECT_EQ(makeValueCell(BlockValue<FloatNumber>(FloatNumber(1.5))).getNumberValue()->get(), FloatNumber(1.5));
+    EXPECT_EQ(makeValueCell(BlockValue<FloatNumber>(FloatNumber(1.5))).getNumberValue()->get(),
+              FloatNumber(1.5));
     EXPECT_TRUE(makeValueCell(BlockValue<bool>(true)).getBoolValue()->get());
-    EXPECT_EQ(makeValueCell(BlockValue<FormulaErrorType>(static_cast<FormulaErrorType>(7))).getErrorValue()->get(),
-              static_cast<FormulaErrorType>(7));
+    EXPECT_EQ(
+        makeValueCell(BlockValue<FormulaErrorType>(static_cast<FormulaErrorType>(7))).getErrorValue()->get(),
+        static_cast<FormulaErrorType>(7));
     EXPECT_EQ(makeValueCell(ArrayFormulaShift(1, 2)).getArrayFormulaShift()->getColumnsCount(), 2U);
 }
 

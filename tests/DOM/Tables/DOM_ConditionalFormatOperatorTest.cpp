@@ -25,7 +25,8 @@ std::string makeExprJson(const std::string& text, bool isFirst = true)
     const std::string type =
         isFirst ? R"("polymorphic_id":2147483649,"polymorphic_name":"QN::DOM::FormulaSyntaxTree::String")"
                 : R"("polymorphic_id":1)";
-    return "{" + type + R"(,"ptr_wrapper":{"valid":1,"data":{"value0":{"value0":{}},"_value":")" + text + R"("}}})";
+    return "{" + type + R"(,"ptr_wrapper":{"valid":1,"data":{"value0":{"value0":{}},"_value":")" + text +
+           R"("}}})";
 }
 
 TEST(DOM_UnaryConditionalFormatOperator, HasTypeZeroAndNoArgumentByDefault)
@@ -38,7 +39,8 @@ TEST(DOM_UnaryConditionalFormatOperator, HasTypeZeroAndNoArgumentByDefault)
 
 TEST(DOM_UnaryConditionalFormatOperator, WritesItsArgumentAsABarePointer)
 {
-    const UnaryConditionalFormatOperator condition(UnaryConditionalFormatOperator::Type::GreaterThan, makeExpr("a"));
+    const UnaryConditionalFormatOperator condition(UnaryConditionalFormatOperator::Type::GreaterThan,
+                                                   makeExpr("a"));
     expectText(condition, R"({"_type":5,"_argument":)" + makeExprJson("a") + "}");
     expectCopiesAndMoves(condition);
 }
@@ -69,8 +71,8 @@ TEST(DOM_BinaryConditionalFormatOperator, HasTypeZeroAndNoArgumentsByDefault)
 
 TEST(DOM_BinaryConditionalFormatOperator, WritesItsArgumentsInOrder)
 {
-    const BinaryConditionalFormatOperator condition(BinaryConditionalFormatOperator::Type::NotBetween, makeExpr("a"),
-                                                    makeExpr("b"));
+    const BinaryConditionalFormatOperator condition(BinaryConditionalFormatOperator::Type::NotBetween,
+                                                    makeExpr("a"), makeExpr("b"));
     expectText(condition, R"({"_type":1,"_firstArgument":)" + makeExprJson("a") + R"(,"_secondArgument":)" +
                               makeExprJson("b", false) + "}");
     expectCopiesAndMoves(condition);
@@ -133,7 +135,8 @@ TEST(DOM_TopBottomConditionalFormatOperator, HasTypeOneByDefault)
 
 TEST(DOM_TopBottomConditionalFormatOperator, WritesItsValueBeforeItsFlag)
 {
-    TopBottomConditionalFormatOperator condition(TopBottomConditionalFormatOperator::Type::Bottom, true, 4294967295U);
+    TopBottomConditionalFormatOperator condition(TopBottomConditionalFormatOperator::Type::Bottom, true,
+                                                 4294967295U);
     expectText(condition, R"({"_type":0,"_value":4294967295,"_usePercent":true})");
     expectCopiesAndMoves(condition);
     condition.setType(TopBottomConditionalFormatOperator::Type::Top);
@@ -179,7 +182,8 @@ TEST(DOM_ConditionalFormatOperator, WritesPlainEnumerationsAsNumbers)
     expectText(ConditionalFormatOperator(), R"({"which":0,"data":0})");
     expectText(ConditionalFormatOperator(static_cast<NullaryConditionalFormatOperator>(255)),
                R"({"which":0,"data":255})");
-    expectText(ConditionalFormatOperator(UniquenessConditionalFormatOperator::UniqueValues), R"({"which":6,"data":1})");
+    expectText(ConditionalFormatOperator(UniquenessConditionalFormatOperator::UniqueValues),
+               R"({"which":6,"data":1})");
 }
 
 } // namespace

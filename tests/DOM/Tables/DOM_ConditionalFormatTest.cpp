@@ -39,23 +39,25 @@ TEST(DOM_ConditionalFormat, HasAConditionOfNumberZeroAndNoRangesByDefault)
 
 TEST(DOM_ConditionalFormat, WritesAllThatItHolds)
 {
-    expectText(makeFormat(),
-               R"({"_styleUUID":{"_id":"00000000-0000-0000-0000-00000000000a"},"_stopCalculateConditions":true,)"
-               R"("_operator":{"which":1,"data":{"_type":2,"_argument":{"polymorphic_id":2147483649,)"
-               R"("polymorphic_name":"QN::DOM::FormulaSyntaxTree::Bool","ptr_wrapper":{"valid":1,)"
-               R"("data":{"value0":{"value0":{}},"_bool":true}}}}},)"
-               R"("_ranges":[{"_beginRowID":{"_value":1},"_beginColID":{"_value":3},"_lastRowID":{"_value":2},)"
-               R"("_lastColID":{"_value":4}},{"_beginRowID":{"_value":5},"_beginColID":{"_value":7},)"
-               R"("_lastRowID":{"_value":6},"_lastColID":{"_value":8}}]})");
+    expectText(
+        makeFormat(),
+        R"({"_styleUUID":{"_id":"00000000-0000-0000-0000-00000000000a"},"_stopCalculateConditions":true,)"
+        R"("_operator":{"which":1,"data":{"_type":2,"_argument":{"polymorphic_id":2147483649,)"
+        R"("polymorphic_name":"QN::DOM::FormulaSyntaxTree::Bool","ptr_wrapper":{"valid":1,)"
+        R"("data":{"value0":{"value0":{}},"_bool":true}}}}},)"
+        R"("_ranges":[{"_beginRowID":{"_value":1},"_beginColID":{"_value":3},"_lastRowID":{"_value":2},)"
+        R"("_lastColID":{"_value":4}},{"_beginRowID":{"_value":5},"_beginColID":{"_value":7},)"
+        R"("_lastRowID":{"_value":6},"_lastColID":{"_value":8}}]})");
     expectCopiesAndMoves(makeFormat());
 }
 
 TEST(DOM_ConditionalFormat, RefusesAnUnknownKindOfCondition)
 {
-    EXPECT_EQ(loadError<ConditionalFormat>(R"({"_styleUUID":{"_id":"00000000-0000-0000-0000-000000000000"},)"
-                                           R"("_stopCalculateConditions":false,"_operator":{"which":7,"data":0},)"
-                                           R"("_ranges":[]})"),
-              "Invalid 'which' selector when deserializing boost::variant");
+    EXPECT_EQ(
+        loadError<ConditionalFormat>(R"({"_styleUUID":{"_id":"00000000-0000-0000-0000-000000000000"},)"
+                                     R"("_stopCalculateConditions":false,"_operator":{"which":7,"data":0},)"
+                                     R"("_ranges":[]})"),
+        "Invalid 'which' selector when deserializing boost::variant");
 }
 
 TEST(DOM_ConditionalFormat, SharesNoExpressionWithItsCopy)

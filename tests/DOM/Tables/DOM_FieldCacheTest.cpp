@@ -69,8 +69,10 @@ TEST(DOM_FieldCache, MakesAFieldBlockOfANumberAndOfABoolean)
 TEST(DOM_FieldCacheDeathTest, TakesFiniteNumbersAlone)
 {
     FieldCache cache;
-    EXPECT_DEATH(cache.addValue(ColumnID(1), std::numeric_limits<double>::infinity()), R"(isfinite\(value\))");
-    EXPECT_DEATH(cache.addValue(ColumnID(1), std::numeric_limits<double>::quiet_NaN()), R"(isfinite\(value\))");
+    EXPECT_DEATH(cache.addValue(ColumnID(1), std::numeric_limits<double>::infinity()),
+                 R"(isfinite\(value\))");
+    EXPECT_DEATH(cache.addValue(ColumnID(1), std::numeric_limits<double>::quiet_NaN()),
+                 R"(isfinite\(value\))");
 }
 
 TEST(DOM_FieldCache, KeepsTheValuesOfAFieldInTheOrderOfAdding)

@@ -14,7 +14,8 @@ namespace {
 
 using namespace QN::Test;
 
-TableRange makeRange(std::uint64_t beginRow, std::uint64_t endRow, std::uint64_t beginColumn, std::uint64_t endColumn)
+TableRange makeRange(std::uint64_t beginRow, std::uint64_t endRow, std::uint64_t beginColumn,
+                     std::uint64_t endColumn)
 {
     return {RowIndex(beginRow), RowIndex(endRow), ColumnIndex(beginColumn), ColumnIndex(endColumn)};
 }
@@ -59,7 +60,8 @@ TEST(DOM_MergedCellsCacheDeathTest, UnmergesCellsWithinTheLimitsAlone)
 {
     MergedCellsCache cache;
     cache.unmergeCells(RowIndex(MaxRows - 1), ColumnIndex(MaxColumns - 1));
-    EXPECT_DEATH(cache.unmergeCells(RowIndex(MaxRows), ColumnIndex(0)), R"(TableRange:229: _beginRow < _endRow)");
+    EXPECT_DEATH(cache.unmergeCells(RowIndex(MaxRows), ColumnIndex(0)),
+                 R"(TableRange:229: _beginRow < _endRow)");
     EXPECT_DEATH(cache.unmergeCells(RowIndex(0), ColumnIndex(MaxColumns)),
                  R"(TableRange:230: _beginColumn < _endColumn)");
 }
@@ -112,14 +114,16 @@ TEST(DOM_MergedCellsCache, MovesRangesRightFromAnInsertedColumn)
 
 TEST(DOM_MergedCellsCache, MovesRangesUpFromARemovedRowAndDropsThoseRootedOnIt)
 {
-    auto cache = makeCache({makeRange(2, 6, 0, 1), makeRange(3, 4, 2, 4), makeRange(3, 5, 5, 6), makeRange(7, 8, 0, 2)});
+    auto cache = makeCache(
+        {makeRange(2, 6, 0, 1), makeRange(3, 4, 2, 4), makeRange(3, 5, 5, 6), makeRange(7, 8, 0, 2)});
     cache.removeRow(RowIndex(3));
     EXPECT_EQ(cache.getMergedRanges(), (std::vector{makeRange(2, 6, 0, 1), makeRange(6, 7, 0, 2)}));
 }
 
 TEST(DOM_MergedCellsCache, MovesRangesLeftFromARemovedColumnAndDropsThoseRootedInIt)
 {
-    auto cache = makeCache({makeRange(0, 1, 2, 6), makeRange(2, 4, 3, 4), makeRange(5, 7, 3, 5), makeRange(8, 9, 7, 9)});
+    auto cache = makeCache(
+        {makeRange(0, 1, 2, 6), makeRange(2, 4, 3, 4), makeRange(5, 7, 3, 5), makeRange(8, 9, 7, 9)});
     cache.removeColumn(ColumnIndex(3));
     EXPECT_EQ(cache.getMergedRanges(), (std::vector{makeRange(0, 1, 2, 6), makeRange(8, 9, 6, 8)}));
 }
@@ -135,7 +139,8 @@ TEST(DOM_MergedCellsCache, NeverNarrowsARangeByARemovalInsideIt)
 TEST(DOM_MergedCellsCache, AnswersTheLastRowAndColumnOfAllRanges)
 {
     EXPECT_EQ(MergedCellsCache().getBottomRightCellIndex(), makeIndex(0, 0));
-    EXPECT_EQ(makeCache({makeRange(0, 9, 0, 2), makeRange(3, 4, 5, 7)}).getBottomRightCellIndex(), makeIndex(8, 6));
+    EXPECT_EQ(makeCache({makeRange(0, 9, 0, 2), makeRange(3, 4, 5, 7)}).getBottomRightCellIndex(),
+              makeIndex(8, 6));
 }
 
 TEST(DOM_MergedCellsCache, WritesItsRanges)

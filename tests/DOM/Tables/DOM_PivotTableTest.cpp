@@ -52,7 +52,8 @@ TEST(DOM_PivotTable, WritesItsIdentityAndThenItsMembers)
     pivot.getFieldCache().setUUID(UUID());
     const std::string nil = R"({"_uuid":{"_id":"00000000-0000-0000-0000-000000000000"}})";
     expectText(pivot, R"({"value0":)" + nil + R"(,"_range":)" + toText(FormulaSyntaxTree::CellRange()) +
-                          R"(,"_rows":[],"_columns":[],"_values":[],"_fields":[],"_fieldCache":{"value0":)" + nil +
+                          R"(,"_rows":[],"_columns":[],"_values":[],"_fields":[],"_fieldCache":{"value0":)" +
+                          nil +
                           R"(,"_fieldValueCache":[]},"_layoutType":0,"_calculatedValues":[],)"
                           R"("_size":{"_width":0,"_height":0}})");
 }

@@ -13,7 +13,8 @@ namespace {
 
 using namespace QN::Test;
 
-TableRange makeRange(std::uint64_t beginRow, std::uint64_t endRow, std::uint64_t beginColumn, std::uint64_t endColumn)
+TableRange makeRange(std::uint64_t beginRow, std::uint64_t endRow, std::uint64_t beginColumn,
+                     std::uint64_t endColumn)
 {
     return {RowIndex(beginRow), RowIndex(endRow), ColumnIndex(beginColumn), ColumnIndex(endColumn)};
 }
@@ -49,8 +50,10 @@ TEST(DOM_PivotTablesCache, PutsAnAreaWithAKnownRootLast)
 TEST(DOM_PivotTablesCacheDeathTest, TakesNoEmptyArea)
 {
     PivotTablesCache cache;
-    EXPECT_DEATH(cache.addPivot(RowIndex(0), ColumnIndex(0), {1, 0}), R"(TableRange:229: _beginRow < _endRow)");
-    EXPECT_DEATH(cache.addPivot(RowIndex(0), ColumnIndex(0), {0, 1}), R"(TableRange:230: _beginColumn < _endColumn)");
+    EXPECT_DEATH(cache.addPivot(RowIndex(0), ColumnIndex(0), {1, 0}),
+                 R"(TableRange:229: _beginRow < _endRow)");
+    EXPECT_DEATH(cache.addPivot(RowIndex(0), ColumnIndex(0), {0, 1}),
+                 R"(TableRange:230: _beginColumn < _endColumn)");
 }
 
 TEST(DOM_PivotTablesCache, ForgetsTheFirstAreaWithARoot)

@@ -265,8 +265,10 @@ TEST(DOM_RowColIDContainer, ReadsItsIdentifiersInAnyOrder)
     const std::string begin = R"({"_predefinedIDs":[{"index":2,"idRange":{"first":1,"second":4}}],)"
                               R"("_insertedItems":[{"index":0,"id":77},{"index":1,"id":66}],"_idToIndex":)";
     const std::string end = R"(,"_predefinedIDsCount":4})";
-    const auto one = fromJson<RowColIDContainer>(begin + R"([{"key":77,"value":0},{"key":66,"value":1}])" + end);
-    const auto other = fromJson<RowColIDContainer>(begin + R"([{"key":66,"value":1},{"key":77,"value":0}])" + end);
+    const auto one =
+        fromJson<RowColIDContainer>(begin + R"([{"key":77,"value":0},{"key":66,"value":1}])" + end);
+    const auto other =
+        fromJson<RowColIDContainer>(begin + R"([{"key":66,"value":1},{"key":77,"value":0}])" + end);
     EXPECT_EQ(one, other);
     EXPECT_EQ(one.getIndex(66), 1U);
 }
@@ -314,9 +316,8 @@ TEST(DOM_RowColIDContainer, AgreesWithAListThroughRandomChanges)
             // An identifier returns to where the order of the predefined ones puts it.
             const std::uint64_t id = removed.back();
             removed.pop_back();
-            const auto place = std::find_if(list.begin(), list.end(), [&](std::uint64_t other) {
-                return other <= Count && other > id;
-            });
+            const auto place = std::find_if(
+                list.begin(), list.end(), [&](std::uint64_t other) { return other <= Count && other > id; });
             container.insert(static_cast<std::uint64_t>(place - list.begin()), id);
             list.insert(place, id);
         } else {

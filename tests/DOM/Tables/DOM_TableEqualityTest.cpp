@@ -56,7 +56,8 @@ TEST(DOM_TableEquality, SeesTombstones)
         table.ensureSize(RowIndex(0), ColumnIndex(6));
     });
     expectDiffers([](Table& table) {
-        table.getFrames().getTombstones().replaceWithTombstone(CollaborationUtils::IndexIncludingTombstones(0));
+        table.getFrames().getTombstones().replaceWithTombstone(
+            CollaborationUtils::IndexIncludingTombstones(0));
     });
 }
 
@@ -105,8 +106,9 @@ TEST(DOM_TableEquality, SeesCellsAndPivotAreas)
 TEST(DOM_TableEquality, LeavesOutWhatIsNoContent)
 {
     expectIsLeftOut([](Table& table) { table.setFilterInfo(TableFilterInfo(makeRange(0, 2, 0, 1))); });
-    expectIsLeftOut(
-        [](Table& table) { table.setHeaderRowsCols(RowIndex(0), ColumnIndex(0), RowIndex(0), ColumnIndex(0)); });
+    expectIsLeftOut([](Table& table) {
+        table.setHeaderRowsCols(RowIndex(0), ColumnIndex(0), RowIndex(0), ColumnIndex(0));
+    });
     expectIsLeftOut([](Table& table) { table.getTableSettings().setShowZeroValue(false); });
     expectIsLeftOut([](Table& table) {
         table.getConditionalFormats().getElements().push_back(std::make_unique<ConditionalFormat>());
@@ -119,7 +121,8 @@ TEST(DOM_TableEquality, LeavesOutTheMergedRangesAsSuch)
     Table other = makeTable();
     one.setMergeProps(RowIndex(0), ColumnIndex(0), 1, 0);
     other.getCell(RowIndex(0), ColumnIndex(0))->setMergeProps(CellMergeProps(1, 0));
-    EXPECT_NE(one.getMergedRange(RowIndex(0), ColumnIndex(0)), other.getMergedRange(RowIndex(0), ColumnIndex(0)));
+    EXPECT_NE(one.getMergedRange(RowIndex(0), ColumnIndex(0)),
+              other.getMergedRange(RowIndex(0), ColumnIndex(0)));
     EXPECT_EQ(one, other);
 }
 
@@ -206,7 +209,8 @@ TEST(DOM_TableValidate, PassesATableWithARowAndAColumn)
 
 TEST(DOM_TableValidateDeathTest, FailsForATableWithoutRowsOrColumns)
 {
-    EXPECT_DEATH(Table().validate(), R"(getLiveRowsCount\(\)\.get\(\) > mergedCellsBounds\.rowIndex\.get\(\))");
+    EXPECT_DEATH(Table().validate(),
+                 R"(getLiveRowsCount\(\)\.get\(\) > mergedCellsBounds\.rowIndex\.get\(\))");
     EXPECT_DEATH(Table(RowIndex(1), ColumnIndex(0)).validate(),
                  R"(getLiveColsCount\(\)\.get\(\) > mergedCellsBounds\.colIndex\.get\(\))");
 }
@@ -220,7 +224,8 @@ TEST(DOM_TableValidateDeathTest, FailsForRangesOutsideTheLiveRowsAndColumns)
     Table columns = makeTable();
     columns.setMergeProps(RowIndex(0), ColumnIndex(0), 0, 5);
     columns.removeColumn(ColumnIndex(5));
-    EXPECT_DEATH(columns.validate(), R"(getLiveColsCount\(\)\.get\(\) > mergedCellsBounds\.colIndex\.get\(\))");
+    EXPECT_DEATH(columns.validate(),
+                 R"(getLiveColsCount\(\)\.get\(\) > mergedCellsBounds\.colIndex\.get\(\))");
     Table pivot = makeTable();
     pivot.setPivotTable(RowIndex(0), ColumnIndex(0), makePivotTable(1, 7));
     EXPECT_DEATH(pivot.validate(), R"(getLiveRowsCount\(\)\.get\(\) > pivotTablesBounds\.rowIndex\.get\(\))");

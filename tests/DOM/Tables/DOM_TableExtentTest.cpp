@@ -78,7 +78,8 @@ TEST(DOM_TableChangeSize, TakesTheRequestAsALowerLimit)
     Table table(RowIndex(9), ColumnIndex(9));
     EXPECT_EQ(table.changeSize(RowIndex(4), ColumnIndex(6)), makeIndex(4, 6));
     EXPECT_EQ(table.changeSize(RowIndex(20), ColumnIndex(30)), makeIndex(20, 30));
-    EXPECT_EQ(table.changeSize(RowIndex(MaxRows + 1), ColumnIndex(MaxColumns + 1)), makeIndex(MaxRows, MaxColumns));
+    EXPECT_EQ(table.changeSize(RowIndex(MaxRows + 1), ColumnIndex(MaxColumns + 1)),
+              makeIndex(MaxRows, MaxColumns));
 }
 
 TEST(DOM_TableChangeSize, KeepsTheStoredCells)

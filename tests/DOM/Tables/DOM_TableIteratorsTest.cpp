@@ -48,14 +48,16 @@ Positions getPositionsBackwards(const Iterators& iterators)
 Table makeSparse(std::uint64_t maxChunkSize = 20000)
 {
     Table table(maxChunkSize);
-    for (const CellIndex& place : {makeIndex(0, 1), makeIndex(0, 3), makeIndex(4, 0), makeIndex(4, 2), makeIndex(9, 5)}) {
+    for (const CellIndex& place :
+         {makeIndex(0, 1), makeIndex(0, 3), makeIndex(4, 0), makeIndex(4, 2), makeIndex(9, 5)}) {
         setNumber(table, place.getRow().get(), place.getColumn().get(),
                   static_cast<double>(10 * place.getRow().get() + place.getColumn().get()));
     }
     return table;
 }
 
-const Positions SparsePositions{makeIndex(0, 1), makeIndex(0, 3), makeIndex(4, 0), makeIndex(4, 2), makeIndex(9, 5)};
+const Positions SparsePositions{makeIndex(0, 1), makeIndex(0, 3), makeIndex(4, 0), makeIndex(4, 2),
+                                makeIndex(9, 5)};
 
 // TableCellIt
 
@@ -218,7 +220,9 @@ TEST(DOM_CellRangeIt, VisitsTheStoredCellsOfARange)
 {
     for (const std::uint64_t maxChunkSize : {1, 2, 20000}) {
         const Table table = makeSparse(maxChunkSize);
-        const auto positionsOf = [&](const TableRange& range) { return getPositions(table.getRangeIterators(range)); };
+        const auto positionsOf = [&](const TableRange& range) {
+            return getPositions(table.getRangeIterators(range));
+        };
         EXPECT_EQ(positionsOf(makeRange(0, 10, 0, 6)), SparsePositions);
         EXPECT_EQ(positionsOf(makeRange(0, 5, 1, 3)), (Positions{makeIndex(0, 1), makeIndex(4, 2)}));
         EXPECT_EQ(positionsOf(makeRange(1, 10, 2, 6)), (Positions{makeIndex(4, 2), makeIndex(9, 5)}));
@@ -232,8 +236,9 @@ TEST(DOM_CellRangeIt, StepsBackThroughARange)
 {
     for (const std::uint64_t maxChunkSize : {1, 2, 20000}) {
         const Table table = makeSparse(maxChunkSize);
-        for (const TableRange& range : {makeRange(0, 10, 0, 6), makeRange(0, 5, 1, 3), makeRange(1, 10, 2, 6),
-                                        makeRange(0, 9, 3, 9), makeRange(1, 4, 0, 9), makeRange(3, 99, 0, 1), TableRange()}) {
+        for (const TableRange& range :
+             {makeRange(0, 10, 0, 6), makeRange(0, 5, 1, 3), makeRange(1, 10, 2, 6), makeRange(0, 9, 3, 9),
+              makeRange(1, 4, 0, 9), makeRange(3, 99, 0, 1), TableRange()}) {
             EXPECT_EQ(getPositionsBackwards(table.getRangeIterators(range)),
                       getPositions(table.getRangeIterators(range)));
         }
@@ -243,7 +248,8 @@ TEST(DOM_CellRangeIt, StepsBackThroughARange)
 TEST(DOM_CellRangeIt, EqualsItsEndAtOnceBelowTheStoredRows)
 {
     const Table table = makeSparse(2);
-    for (const TableRange& range : {makeRange(10, 20, 0, 9), makeRange(1000, 1001, 0, 1), makeRange(5, 9, 0, 9)}) {
+    for (const TableRange& range :
+         {makeRange(10, 20, 0, 9), makeRange(1000, 1001, 0, 1), makeRange(5, 9, 0, 9)}) {
         const auto iterators = table.getRangeIterators(range);
         EXPECT_TRUE(iterators.first == iterators.second);
         EXPECT_EQ(*iterators.first, nullptr);
@@ -343,7 +349,8 @@ TEST(DOM_LogicalCellIt, FindsEachStoredCellInItsPlace)
     for (const std::uint64_t maxChunkSize : {1, 2, 20000}) {
         const Table table = makeSparse(maxChunkSize);
         expectLookups(table, table.getTableLogicalIterators());
-        for (const TableRange& range : {makeRange(0, 10, 0, 6), makeRange(3, 12, 1, 3), makeRange(20, 22, 0, 2)}) {
+        for (const TableRange& range :
+             {makeRange(0, 10, 0, 6), makeRange(3, 12, 1, 3), makeRange(20, 22, 0, 2)}) {
             expectLookups(table, table.getRangeLogicalIterators(range));
         }
     }
@@ -467,8 +474,9 @@ TEST(DOM_LogicalCellIt, FollowsColumnsThatCameAndWent)
     table.removeColumn(ColumnIndex(0));
     table.insertRow({{}, {}, RowID(5'000'000'000)}, RowIndex(1));
     expectLookups(table, table.getTableLogicalIterators());
-    EXPECT_EQ(getPositions(table.getTableIterators()),
-              (Positions{makeIndex(0, 0), makeIndex(0, 3), makeIndex(5, 1), makeIndex(5, 2), makeIndex(10, 5)}));
+    EXPECT_EQ(
+        getPositions(table.getTableIterators()),
+        (Positions{makeIndex(0, 0), makeIndex(0, 3), makeIndex(5, 1), makeIndex(5, 2), makeIndex(10, 5)}));
 }
 
 } // namespace

@@ -53,15 +53,17 @@ Table makeFullTable()
 const std::string EmptyTombstones = R"({"_tombstones":{"_tombstones":[]},"_idToIndexMap":[]})";
 
 /// A default table with these chunks and counts.
-std::string makeJson(const std::string& chunks, const std::string& rows = "0", const std::string& columns = "0")
+std::string makeJson(const std::string& chunks, const std::string& rows = "0",
+                     const std::string& columns = "0")
 {
     const auto container = [](const std::string& count) {
         return R"({"_predefinedIDs":[{"index":0,"idRange":{"first":1,"second":)" + count +
                R"(}}],"_insertedItems":[],"_idToIndex":[],"_predefinedIDsCount":)" + count + "}";
     };
     return R"({"value0":{},"value1":{"_uuid":{"_id":"00000000-0000-0000-0000-000000000000"}},"_name":"","_chunks":)" +
-           chunks + R"(,"_rowIDContainer":)" + container("1048576") + R"(,"_colIDContainer":)" + container("16384") +
-           R"(,"_colsTombstones":)" + EmptyTombstones + R"(,"_rowsTombstones":)" + EmptyTombstones +
+           chunks + R"(,"_rowIDContainer":)" + container("1048576") + R"(,"_colIDContainer":)" +
+           container("16384") + R"(,"_colsTombstones":)" + EmptyTombstones + R"(,"_rowsTombstones":)" +
+           EmptyTombstones +
            R"(,"_definedNames":[],"_style":{"id":0},"_frames":{"_elements":[],"_tombstones":{"_tombstones":[]}},)"
            R"("_rowStyles":[],"_columnStyles":[],"_filterInfo":{"hasValue":false},)"
            R"("_headerRowsCols":{"hasValue":false},"_tableSettings":{"_showZeroValue":true,)"
@@ -83,9 +85,11 @@ TEST(DOM_TablePersistence, WritesItsCellsByTheIdentifiersOfTheirColumns)
 {
     Table table = makeNilTable();
     table.getOrCreateCell(RowIndex(1), ColumnIndex(2));
-    expectText(table, makeJson(R"([{"data":[{"cell":{"ptr_wrapper":{"valid":1,"data":)" + toText(Cell()) +
-                                   R"(}},"colID":{"_value":3}}],"rowDataOffsets":[0,0],"startRowIndex":{"_value":0}}])",
-                               "2", "3"));
+    expectText(
+        table,
+        makeJson(R"([{"data":[{"cell":{"ptr_wrapper":{"valid":1,"data":)" + toText(Cell()) +
+                     R"(}},"colID":{"_value":3}}],"rowDataOffsets":[0,0],"startRowIndex":{"_value":0}}])",
+                 "2", "3"));
 }
 
 TEST(DOM_TablePersistence, WritesNamesAndStylesUnderTheirKeys)
@@ -94,14 +98,16 @@ TEST(DOM_TablePersistence, WritesNamesAndStylesUnderTheirKeys)
     table.getDefinedNames()["tax"] = std::make_unique<FormulaSyntaxTree::Bool>(true);
     table.setSharedStyle(makeStyle<RowStyle>('2'), RowIndex(1));
     const std::string json = toText(table);
-    EXPECT_NE(json.find(R"json("_definedNames":[{"key":"tax","value":{"this->getPtr()":{)json"
-                        R"("polymorphic_id":2147483649,"polymorphic_name":"QN::DOM::FormulaSyntaxTree::Bool",)"
-                        R"("ptr_wrapper":{"valid":1,"data":{"value0":{"value0":{}},"_bool":true}}}}}])"),
-              std::string::npos)
+    EXPECT_NE(
+        json.find(R"json("_definedNames":[{"key":"tax","value":{"this->getPtr()":{)json"
+                  R"("polymorphic_id":2147483649,"polymorphic_name":"QN::DOM::FormulaSyntaxTree::Bool",)"
+                  R"("ptr_wrapper":{"valid":1,"data":{"value0":{"value0":{}},"_bool":true}}}}}])"),
+        std::string::npos)
         << json;
-    EXPECT_NE(json.find(R"("_rowStyles":[{"key":{"_value":2},"value":{"id":2147483649,"value0":{"ptr_wrapper":)"
-                        R"({"valid":1,"data":{"_style":)"),
-              std::string::npos)
+    EXPECT_NE(
+        json.find(R"("_rowStyles":[{"key":{"_value":2},"value":{"id":2147483649,"value0":{"ptr_wrapper":)"
+                  R"({"valid":1,"data":{"_style":)"),
+        std::string::npos)
         << json;
 }
 
@@ -171,7 +177,8 @@ TEST(DOM_TablePersistence, RefusesCountsBeyondTheLimits)
 
 TEST(DOM_TablePersistence, JudgesNoOffsets)
 {
-    const auto table = fromJson<Table>(makeJson("[" + makeChunkJson("0", "[9,3,18446744073709551615,0]") + "]", "4", "1"));
+    const auto table =
+        fromJson<Table>(makeJson("[" + makeChunkJson("0", "[9,3,18446744073709551615,0]") + "]", "4", "1"));
     EXPECT_EQ(table.getCell(RowIndex(2), ColumnIndex(0)), nullptr);
     EXPECT_EQ(getOffsets(table, 0), (std::vector<std::uint64_t>{9, 3, 18446744073709551615U, 0}));
 }
@@ -197,8 +204,10 @@ TEST(DOM_Table, IsCopiedDeeplyWithItsIdentity)
     EXPECT_EQ(toJson(copy), toJson(source));
     EXPECT_EQ(copy.getUUID(), source.getUUID());
     EXPECT_EQ(copy.IDHolder::getID(), source.IDHolder::getID());
-    EXPECT_NE(copy.getCell(RowIndex(0), ColumnIndex(0)), std::as_const(source).getCell(RowIndex(0), ColumnIndex(0)));
-    EXPECT_NE(copy.getDefinedNames().at("tax").get(), std::as_const(source).getDefinedNames().at("tax").get());
+    EXPECT_NE(copy.getCell(RowIndex(0), ColumnIndex(0)),
+              std::as_const(source).getCell(RowIndex(0), ColumnIndex(0)));
+    EXPECT_NE(copy.getDefinedNames().at("tax").get(),
+              std::as_const(source).getDefinedNames().at("tax").get());
     EXPECT_NE(copy.getFrames().getElements()[0], std::as_const(source).getFrames().getElements()[0]);
     EXPECT_NE(copy.getConditionalFormats().getElements()[0],
               std::as_const(source).getConditionalFormats().getElements()[0]);

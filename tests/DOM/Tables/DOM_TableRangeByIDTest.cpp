@@ -56,8 +56,8 @@ TEST(DOM_TableRangeByID, TakesItsIdentifiersOneByOneAndByAxis)
 
 TEST(DOM_TableRangeByID, OrdersByRowsAndThenByColumns)
 {
-    expectAscending({makeRange(0, 0, 0, 0), makeRange(0, 0, 0, 9), makeRange(0, 0, 1, 0), makeRange(0, 1, 0, 0),
-                     makeRange(1, 0, 0, 0)});
+    expectAscending({makeRange(0, 0, 0, 0), makeRange(0, 0, 0, 9), makeRange(0, 0, 1, 0),
+                     makeRange(0, 1, 0, 0), makeRange(1, 0, 0, 0)});
 }
 
 } // namespace

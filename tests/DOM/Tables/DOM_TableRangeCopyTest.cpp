@@ -16,7 +16,8 @@ std::unique_ptr<Table> copyRange(const Table& source, const TableRange& range)
                                      range.getEndColumn(), [](const CellInfo& info) {
                                          Cell::Blocks blocks;
                                          const double number = getNumber(info.getCell());
-                                         blocks.push_back(makeNumberBlock(number == -2.0 ? -5.0 : number + 1000.0));
+                                         blocks.push_back(
+                                             makeNumberBlock(number == -2.0 ? -5.0 : number + 1000.0));
                                          return blocks;
                                      });
 }
@@ -41,8 +42,8 @@ TEST(DOM_TableRangeCopy, AsksForEveryPositionAndSkipsThoseWithoutCell)
     Table source;
     setNumber(source, 1, 1, 7.0);
     std::vector<CellIndex> asked;
-    const auto copy = Table::getRangeCustomCopy(source, RowIndex(0), ColumnIndex(0), RowIndex(2), ColumnIndex(2),
-                                                [&](const CellInfo& info) {
+    const auto copy = Table::getRangeCustomCopy(source, RowIndex(0), ColumnIndex(0), RowIndex(2),
+                                                ColumnIndex(2), [&](const CellInfo& info) {
                                                     asked.push_back(info.getCellIndex());
                                                     return Cell::Blocks();
                                                 });

@@ -55,7 +55,8 @@ TEST(DOM_ConvertTableRange, TakesAWholeListElementByElement)
     Table table(RowIndex(10), ColumnIndex(10));
     const std::vector ranges{makeRange(1, 4, 2, 3), makeRange(0, 1, 0, 1)};
     const auto byID = convertToTableRangesByID(table, ranges);
-    EXPECT_EQ(byID, (std::vector{convertToTableRangeByID(table, ranges[0]), convertToTableRangeByID(table, ranges[1])}));
+    EXPECT_EQ(byID, (std::vector{convertToTableRangeByID(table, ranges[0]),
+                                 convertToTableRangeByID(table, ranges[1])}));
     table.removeRow(RowIndex(0));
     EXPECT_EQ(convertToTableRanges(table, byID),
               (std::vector<boost::optional<TableRange>>{makeRange(0, 3, 2, 3), boost::none}));

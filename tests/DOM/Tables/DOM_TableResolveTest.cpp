@@ -150,7 +150,8 @@ TEST(DOM_TableResolve, TellsWhetherACellLiesInARange)
     const TableRangeByID range = makeIDRange(3, 7, 6, 8);
     for (std::uint64_t row = 0; row < 6; ++row) {
         for (std::uint64_t column = 0; column < 8; ++column) {
-            EXPECT_EQ(table.isInRange(range, makeIndex(row, column)), row >= 1 && row <= 3 && column >= 4 && column <= 5)
+            EXPECT_EQ(table.isInRange(range, makeIndex(row, column)),
+                      row >= 1 && row <= 3 && column >= 4 && column <= 5)
                 << row << " " << column;
         }
     }

@@ -37,7 +37,8 @@ TEST(DOM_Table, FindsACellByTheIdentifiersOfItsRowAndColumn)
 {
     Table table = makeGrid(3, 3);
     EXPECT_EQ(getNumber(table.getCellById(RowID(2), ColumnID(3))), 12.0);
-    EXPECT_EQ(std::as_const(table).getCellById(RowID(2), ColumnID(3)), table.getCell(RowIndex(1), ColumnIndex(2)));
+    EXPECT_EQ(std::as_const(table).getCellById(RowID(2), ColumnID(3)),
+              table.getCell(RowIndex(1), ColumnIndex(2)));
     EXPECT_EQ(table.getCellById(RowID(0), ColumnID(3)), nullptr);
     EXPECT_EQ(table.getCellById(RowID(2), ColumnID(0)), nullptr);
     EXPECT_EQ(table.getCellById(RowID(7), ColumnID(7)), nullptr);
@@ -88,14 +89,16 @@ TEST(DOM_Table, AnswersTheSameCellUntilItIsRemoved)
 TEST(DOM_TableDeathTest, StoresNoCellOutsideTheLimits)
 {
     Table table;
-    EXPECT_DEATH(table.getOrCreateCell(RowIndex(MaxRows), ColumnIndex(0)), R"(rowIndex\.get\(\) < DOM::MaxRows)");
+    EXPECT_DEATH(table.getOrCreateCell(RowIndex(MaxRows), ColumnIndex(0)),
+                 R"(rowIndex\.get\(\) < DOM::MaxRows)");
     EXPECT_DEATH(table.getOrCreateCell(RowIndex(0), ColumnIndex(MaxColumns)),
                  R"(colIndex\.get\(\) < DOM::MaxColumns)");
     EXPECT_DEATH(table.setCell(RowIndex(MaxRows), ColumnIndex(0), std::make_unique<Cell>()),
                  R"(rowIndex\.get\(\) < DOM::MaxRows)");
     EXPECT_DEATH(table.setCell(RowIndex(0), ColumnIndex(MaxColumns), std::make_unique<Cell>()),
                  R"(colIndex\.get\(\) < DOM::MaxColumns)");
-    EXPECT_DEATH(table.setMergeProps(RowIndex(MaxRows), ColumnIndex(0), 1, 1), R"(rowIndex\.get\(\) < DOM::MaxRows)");
+    EXPECT_DEATH(table.setMergeProps(RowIndex(MaxRows), ColumnIndex(0), 1, 1),
+                 R"(rowIndex\.get\(\) < DOM::MaxRows)");
     EXPECT_DEATH(table.setPivotTable(RowIndex(MaxRows), ColumnIndex(0), makePivotTable(1, 1)),
                  R"(rowIndex\.get\(\) < DOM::MaxRows)");
 }
@@ -150,7 +153,8 @@ TEST(DOM_TableDeathTest, TakesNoCellWhoseMergedRangeWrapsAround)
     Table table;
     auto cell = makeNumberCell(7.0);
     cell->setMergeProps(CellMergeProps(~std::uint64_t{0}, 0));
-    EXPECT_DEATH(table.setCell(RowIndex(0), ColumnIndex(0), std::move(cell)), R"(TableRange:229: _beginRow < _endRow)");
+    EXPECT_DEATH(table.setCell(RowIndex(0), ColumnIndex(0), std::move(cell)),
+                 R"(TableRange:229: _beginRow < _endRow)");
     auto other = makeNumberCell(7.0);
     other->setMergeProps(CellMergeProps(0, ~std::uint64_t{0}));
     EXPECT_DEATH(table.setCell(RowIndex(0), ColumnIndex(0), std::move(other)),
@@ -357,7 +361,8 @@ TEST(DOM_Table, SplitsAChunkThatTakesACellToo)
 TEST(DOM_Table, SplitsAChunkInTheMiddle)
 {
     Table table = makeGrid(8, 1, 4);
-    EXPECT_EQ(getChunkTexts(table), (ChunkTexts{"0: 1=0 | 1=10", "2: 1=20 | 1=30", "4: 1=40 | 1=50 | 1=60 | 1=70"}));
+    EXPECT_EQ(getChunkTexts(table),
+              (ChunkTexts{"0: 1=0 | 1=10", "2: 1=20 | 1=30", "4: 1=40 | 1=50 | 1=60 | 1=70"}));
     setNumber(table, 2, 1, 21.0);
     setNumber(table, 2, 2, 22.0);
     setNumber(table, 3, 1, 31.0);

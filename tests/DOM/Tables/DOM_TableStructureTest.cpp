@@ -103,9 +103,11 @@ TEST(DOM_TableRows, AreInsertedBehindTheStoredOnes)
 TEST(DOM_TableRows, MoveTheLaterChunksOnly)
 {
     Table table = makeGrid(6, 1, 2);
-    EXPECT_EQ(getChunkTexts(table), (ChunkTexts{"0: 1=0", "1: 1=10", "2: 1=20", "3: 1=30", "4: 1=40 | 1=50"}));
+    EXPECT_EQ(getChunkTexts(table),
+              (ChunkTexts{"0: 1=0", "1: 1=10", "2: 1=20", "3: 1=30", "4: 1=40 | 1=50"}));
     table.insertRow(makeRow(Inserted), RowIndex(2));
-    EXPECT_EQ(getChunkTexts(table), (ChunkTexts{"0: 1=0", "1: 1=10", "2: | 1=20", "4: 1=30", "5: 1=40 | 1=50"}));
+    EXPECT_EQ(getChunkTexts(table),
+              (ChunkTexts{"0: 1=0", "1: 1=10", "2: | 1=20", "4: 1=30", "5: 1=40 | 1=50"}));
     EXPECT_EQ(getNumber(table, 6, 0), 50.0);
 }
 
@@ -388,7 +390,8 @@ TEST(DOM_TableColumns, LeaveWithTheirCellsStyleAndIdentifier)
     const ColumnData removed = table.removeColumn(ColumnIndex(1));
     EXPECT_EQ(getText(removed), "2: 0=1 1=11 3=31");
     EXPECT_EQ(removed.style, style);
-    EXPECT_EQ(getChunkTexts(table), (ChunkTexts{"0: 1=0 3=2", "1: 1=10 3=12", "2: 1=20 3=22", "3: 1=30 3=32"}));
+    EXPECT_EQ(getChunkTexts(table),
+              (ChunkTexts{"0: 1=0 3=2", "1: 1=10 3=12", "2: 1=20 3=22", "3: 1=30 3=32"}));
     EXPECT_EQ(table.getLiveColsCount(), ColumnIndex(2));
     EXPECT_EQ(table.getIndex(ColumnID(3)), ColumnIndex(1));
     EXPECT_EQ(table.getIndex(ColumnID(2)), boost::none);
@@ -432,7 +435,8 @@ TEST(DOM_TableColumns, BehindTheLiveOnesHaveNothingButAnIdentifier)
 
 TEST(DOM_TableColumns, OfAKnownInsertedIdentifierAreRefusedBeforeAnythingChanges)
 {
-    const std::string message = "Trying to insert column, but column with same ID is already present in a table.";
+    const std::string message =
+        "Trying to insert column, but column with same ID is already present in a table.";
     Table table = makeGrid(3, 3);
     table.insertColumn(makeColumn(Inserted), ColumnIndex(1));
     table.replaceColWithTombstone(Position(2));
@@ -446,7 +450,8 @@ TEST(DOM_TableColumns, OfAKnownInsertedIdentifierAreRefusedBeforeAnythingChanges
 TEST(DOM_TableColumnsDeathTest, AreNotInsertedBehindTheLiveOnes)
 {
     Table table = makeGrid(2, 2);
-    EXPECT_DEATH(table.insertColumn(makeColumn(Inserted), ColumnIndex(3)), R"(position\.get\(\) <= _colsCount)");
+    EXPECT_DEATH(table.insertColumn(makeColumn(Inserted), ColumnIndex(3)),
+                 R"(position\.get\(\) <= _colsCount)");
 }
 
 TEST(DOM_TableColumns, MoveMergedRangesAndPivotTables)

@@ -130,8 +130,9 @@ TEST(DOM_TombstonesWithIDsStorage, WritesIdentifiersBareAndPositionsTagged)
 
 TEST(DOM_TombstonesWithIDsStorage, ReadsItsIdentifiersInAnyOrder)
 {
-    const std::string begin = R"({"_tombstones":{"_tombstones":[{"_begin":{"_value":2},"_end":{"_value":4}}]},)"
-                              R"("_idToIndexMap":)";
+    const std::string begin =
+        R"({"_tombstones":{"_tombstones":[{"_begin":{"_value":2},"_end":{"_value":4}}]},)"
+        R"("_idToIndexMap":)";
     const auto one = fromJson<TombstonesWithIDsStorage>(
         begin + R"([{"key":8,"value":{"_value":2}},{"key":9,"value":{"_value":3}}]})");
     const auto other = fromJson<TombstonesWithIDsStorage>(

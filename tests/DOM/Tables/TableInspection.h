@@ -41,7 +41,8 @@ inline ChunkTexts getChunkTexts(const DOM::Table& table)
             text << (row == 0 ? "" : " |");
             const auto boundaries = chunk.getRelativeRowBoundaries(row);
             for (std::size_t place = boundaries.begin; place < boundaries.end; ++place) {
-                text << " " << chunk.data[place].colID.get() << "=" << getNumber(chunk.data[place].cell.get());
+                text << " " << chunk.data[place].colID.get() << "="
+                     << getNumber(chunk.data[place].cell.get());
             }
         }
         texts.push_back(text.str());

@@ -15,7 +15,8 @@ TEST(AssertDeathTest, FailedCheckReportsFileLineAndExpression)
 
 TEST(AssertDeathTest, FailedCheckReportsItsMessage)
 {
-    EXPECT_DEATH(QN::doFailAssert("DOM/SomeFile", 12, "value", "of no use"), "DOM/SomeFile:12: value: of no use\n");
+    EXPECT_DEATH(QN::doFailAssert("DOM/SomeFile", 12, "value", "of no use"),
+                 "DOM/SomeFile:12: value: of no use\n");
 }
 
 TEST(AssertDeathTest, MessageIsTakenByItsLengthAndNotByATerminator)
@@ -36,7 +37,8 @@ TEST(AssertDeathTest, BrokenAssertionReportsWhereItStands)
 {
     const std::string place = "tests/Utils/Public/AssertTest.cpp:";
     EXPECT_DEATH(QN_ASSERT(1 + 1 == 3), place + std::to_string(__LINE__) + ": 1 \\+ 1 == 3\n");
-    EXPECT_DEATH(QN_ASSERT_MESSAGE(1 + 1 == 3, "sum", "is two"), place + std::to_string(__LINE__) + ": sum: is two\n");
+    EXPECT_DEATH(QN_ASSERT_MESSAGE(1 + 1 == 3, "sum", "is two"),
+                 place + std::to_string(__LINE__) + ": sum: is two\n");
 }
 
 TEST(AssertTest, ContractThatHoldsEvaluatesItsConditionOnce)
@@ -59,4 +61,4 @@ TEST(AssertTest, ContractHoldsForAnythingThatConvertsToTrueExplicitly)
 
 } // namespace
 
-}  // namespace QN::AssertTest
+} // namespace QN::AssertTest

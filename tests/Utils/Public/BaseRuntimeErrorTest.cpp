@@ -18,4 +18,4 @@ TEST(BaseRuntimeErrorTest, IsARuntimeErrorWithTheGivenText)
 
 } // namespace
 
-}  // namespace QN::BaseRuntimeErrorTest
+} // namespace QN::BaseRuntimeErrorTest

@@ -84,4 +84,4 @@ TEST(BoolOptTest, TakesNothingButABool)
 
 } // namespace
 
-}  // namespace QN::BoolOptTest
+} // namespace QN::BoolOptTest

@@ -117,4 +117,4 @@ TEST(CallableRefTest, TakesOnlyWhatCanBeCalledSo)
 
 } // namespace
 
-}  // namespace QN::CallableRefTest
+} // namespace QN::CallableRefTest

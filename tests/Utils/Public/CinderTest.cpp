@@ -59,8 +59,9 @@ TEST(CinderTest, VectorsOrderByTheirCoordinatesInTurn)
 
 TEST(CinderTest, PolygonsOrderByTheirPointsAndOpenBeforeClosed)
 {
-    expectStrictlyAscending<Polygon>({Polygon(), Polygon({}, true), Polygon({{0, 0}}), Polygon({{0, 0}}, true),
-                                      Polygon({{0, 0}, {-1, 0}}), Polygon({{0, 1}}), Polygon({{1, 0}})});
+    expectStrictlyAscending<Polygon>({Polygon(), Polygon({}, true), Polygon({{0, 0}}),
+                                      Polygon({{0, 0}}, true), Polygon({{0, 0}, {-1, 0}}), Polygon({{0, 1}}),
+                                      Polygon({{1, 0}})});
 }
 
 TEST(CinderTest, PolygonCanBeChanged)
@@ -74,4 +75,4 @@ TEST(CinderTest, PolygonCanBeChanged)
 
 } // namespace
 
-}  // namespace QN::CinderTest
+} // namespace QN::CinderTest

@@ -139,4 +139,4 @@ TEST(ClonableSchemeTest, RootCarriesTheEmptyMarkOfFamilies)
 
 } // namespace
 
-}  // namespace QN::ClonableTest
+} // namespace QN::ClonableTest

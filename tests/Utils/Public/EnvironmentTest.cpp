@@ -92,4 +92,4 @@ TEST(EnvironmentTest, ThreadsTakeTurns)
 
 } // namespace
 
-}  // namespace QN::EnvironmentTest
+} // namespace QN::EnvironmentTest

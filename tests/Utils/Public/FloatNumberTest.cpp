@@ -51,4 +51,4 @@ TEST(FloatNumberTest, DoesNotConvertByItself)
 
 } // namespace
 
-}  // namespace QN::FloatNumberTest
+} // namespace QN::FloatNumberTest

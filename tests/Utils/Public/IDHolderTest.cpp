@@ -73,4 +73,4 @@ TEST(IDHolderTest, ObjectsOfSeveralThreadsDiffer)
 
 } // namespace
 
-}  // namespace QN::IDHolderTest
+} // namespace QN::IDHolderTest

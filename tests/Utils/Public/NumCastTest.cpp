@@ -75,4 +75,4 @@ TEST(NumCastTest, SourceTypeIsDeduced)
 
 } // namespace
 
-}  // namespace QN::NumCastTest
+} // namespace QN::NumCastTest

@@ -15,8 +15,9 @@ using Color = cinder::ColorT<unsigned char>;
 using Palette = boost::const_multi_array_ref<Color, 1>;
 using QN::getPaletteColorForString;
 
-constexpr std::array<Color, 10> Colors{Color{0, 0, 0}, Color{1, 0, 0}, Color{2, 0, 0}, Color{3, 0, 0}, Color{4, 0, 0},
-                                       Color{5, 0, 0}, Color{6, 0, 0}, Color{7, 0, 0}, Color{8, 0, 0}, Color{9, 0, 0}};
+constexpr std::array<Color, 10> Colors{Color{0, 0, 0}, Color{1, 0, 0}, Color{2, 0, 0}, Color{3, 0, 0},
+                                       Color{4, 0, 0}, Color{5, 0, 0}, Color{6, 0, 0}, Color{7, 0, 0},
+                                       Color{8, 0, 0}, Color{9, 0, 0}};
 
 Palette makePalette(std::size_t size)
 {
@@ -57,7 +58,8 @@ TEST(PaletteColorTest, WholeStringCounts)
 {
     std::set<Color> picked;
     for (int number = 0; number < 50; ++number) {
-        picked.insert(getPaletteColorForString(std::string("user\0", 5) + std::to_string(number), makePalette(10)));
+        picked.insert(
+            getPaletteColorForString(std::string("user\0", 5) + std::to_string(number), makePalette(10)));
     }
     EXPECT_GT(picked.size(), 1U);
 }
@@ -70,4 +72,4 @@ TEST(PaletteColorDeathTest, EmptyPaletteBreaksTheContract)
 
 } // namespace
 
-}  // namespace QN::PaletteColorTest
+} // namespace QN::PaletteColorTest

@@ -134,8 +134,10 @@ TEST(ReadonlyVectorDeathTest, FrontAndBackOfAnEmptyVectorBreakTheContract)
 {
     const Items items;
     const View view(items);
-    EXPECT_DEATH(static_cast<void>(view.front()), "Utils/Public/ReadonlyVector:547: !_items.get\\(\\).empty\\(\\)\n");
-    EXPECT_DEATH(static_cast<void>(view.back()), "Utils/Public/ReadonlyVector:547: !_items.get\\(\\).empty\\(\\)\n");
+    EXPECT_DEATH(static_cast<void>(view.front()),
+                 "Utils/Public/ReadonlyVector:547: !_items.get\\(\\).empty\\(\\)\n");
+    EXPECT_DEATH(static_cast<void>(view.back()),
+                 "Utils/Public/ReadonlyVector:547: !_items.get\\(\\).empty\\(\\)\n");
     EXPECT_DEATH(static_cast<void>(view[0]), "Utils/Public/ReadonlyVector:449: index < size\\(\\)\n");
 }
 
@@ -152,4 +154,4 @@ TEST(ReadonlyVectorDeathTest, ReadingANullElementBreaksTheContract)
 
 } // namespace
 
-}  // namespace QN::ReadonlyVectorTest
+} // namespace QN::ReadonlyVectorTest

@@ -144,4 +144,4 @@ TEST(ReflectableTest, CopyKeepsTheIdentitiesOfBothBases)
 
 } // namespace
 
-}  // namespace QN::ReflectableTest
+} // namespace QN::ReflectableTest

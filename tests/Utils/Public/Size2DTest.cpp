@@ -9,7 +9,8 @@ namespace QN::Size2DTest {
 namespace {
 
 template <class T>
-class Size2DTest : public testing::Test {};
+class Size2DTest : public testing::Test {
+};
 
 using Units = testing::Types<float, unsigned int, unsigned long>;
 TYPED_TEST_SUITE(Size2DTest, Units);
@@ -51,4 +52,4 @@ TEST(Size2DFloatTest, NotANumberDiffersFromItself)
 
 } // namespace
 
-}  // namespace QN::Size2DTest
+} // namespace QN::Size2DTest

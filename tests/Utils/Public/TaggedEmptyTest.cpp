@@ -33,4 +33,4 @@ TEST(TaggedEmptyTest, TagsMakeTypesThatDoNotMix)
 
 } // namespace
 
-}  // namespace QN::TaggedEmptyTest
+} // namespace QN::TaggedEmptyTest

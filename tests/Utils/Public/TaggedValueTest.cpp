@@ -35,13 +35,25 @@ using Identity = TaggedValue<UUID, FirstTag>;
 using FormatOpt = TaggedValue<boost::optional<Format>, FirstTag>;
 
 template <class T>
-concept Addable = requires(T value) { value + value; };
+concept Addable = requires(T value)
+{
+    value + value;
+};
 template <class T>
-concept Incrementable = requires(T value) { ++value; };
+concept Incrementable = requires(T value)
+{
+    ++value;
+};
 template <class T>
-concept Orderable = requires(const T& value) { value < value; };
+concept Orderable = requires(const T& value)
+{
+    value < value;
+};
 template <class T>
-concept BoostHashable = requires(const T& value) { hash_value(value); };
+concept BoostHashable = requires(const T& value)
+{
+    hash_value(value);
+};
 template <class T>
 concept StdHashable = std::is_default_constructible_v<std::hash<T>>;
 
@@ -167,7 +179,8 @@ TEST(TaggedValueTest, HasTheOperationsThatItsTypeHasAndNoOthers)
     static_assert(!Addable<Flag> && !Incrementable<Flag> && std::equality_comparable<Flag>);
     using Closed = TaggedValue<Opaque, FirstTag>;
     static_assert(!Addable<Closed> && !Orderable<Closed> && !std::equality_comparable<Closed>);
-    static_assert(BoostHashable<Index> && StdHashable<Index> && BoostHashable<Identity> && StdHashable<Identity>);
+    static_assert(BoostHashable<Index> && StdHashable<Index> && BoostHashable<Identity> &&
+                  StdHashable<Identity>);
     static_assert(!BoostHashable<Closed> && !StdHashable<Closed>);
 }
 
@@ -211,4 +224,4 @@ TEST(TaggedValueTest, EqualValuesHashEqually)
 
 } // namespace
 
-}  // namespace QN::TaggedValueTest
+} // namespace QN::TaggedValueTest

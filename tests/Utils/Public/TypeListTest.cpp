@@ -27,4 +27,4 @@ TEST(TypeListTest, ListOfIncompleteTypesIsAValue)
 
 } // namespace
 
-}  // namespace QN::TypeListTest
+} // namespace QN::TypeListTest

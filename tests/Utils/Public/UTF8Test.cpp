@@ -73,4 +73,4 @@ TEST(UTF8Test, NothingElseEndsALine)
 
 } // namespace
 
-}  // namespace QN::UTF8Test
+} // namespace QN::UTF8Test

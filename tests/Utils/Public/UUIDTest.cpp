@@ -52,8 +52,10 @@ TEST(UUIDTest, IsSixteenPlainBytes)
 TEST(UUIDTest, TextIsReadAndWrittenUnchanged)
 {
     EXPECT_EQ(UUID(Text).toString(), Text);
-    EXPECT_EQ(UUID("01234567-89ab-cdef-fedc-ba9876543210").toString(), "01234567-89ab-cdef-fedc-ba9876543210");
-    EXPECT_EQ(UUID("ffffffff-ffff-ffff-ffff-ffffffffffff").toString(), "ffffffff-ffff-ffff-ffff-ffffffffffff");
+    EXPECT_EQ(UUID("01234567-89ab-cdef-fedc-ba9876543210").toString(),
+              "01234567-89ab-cdef-fedc-ba9876543210");
+    EXPECT_EQ(UUID("ffffffff-ffff-ffff-ffff-ffffffffffff").toString(),
+              "ffffffff-ffff-ffff-ffff-ffffffffffff");
 }
 
 TEST(UUIDTest, UpperCaseIsReadAndWrittenInLowerCase)
@@ -201,4 +203,4 @@ TEST(UUIDTest, EqualValuesHashEquallyAndOthersHardlyEver)
 
 } // namespace
 
-}  // namespace QN::UUIDTest
+} // namespace QN::UUIDTest

@@ -55,7 +55,8 @@ TEST(UUIDableTest, MovedObjectKeepsItsIdentity)
     UUIDable assigned;
     assigned = std::move(other);
     EXPECT_EQ(assigned.getUUID(), Known);
-    static_assert(std::is_nothrow_move_constructible_v<UUIDable> && std::is_nothrow_move_assignable_v<UUIDable>);
+    static_assert(std::is_nothrow_move_constructible_v<UUIDable> &&
+                  std::is_nothrow_move_assignable_v<UUIDable>);
 }
 
 TEST(UUIDableTest, IdentityCanBeReplaced)
@@ -81,4 +82,4 @@ TEST(UUIDableTest, IsDestroyedThroughItsBase)
 
 } // namespace
 
-}  // namespace QN::UUIDableTest
+} // namespace QN::UUIDableTest

@@ -233,4 +233,4 @@ TEST(VisitorDeathTest, VisitorOfSeveralFunctorsWithoutAnyBreaksTheContract)
 
 } // namespace
 
-}  // namespace QN::VisitorTest
+} // namespace QN::VisitorTest

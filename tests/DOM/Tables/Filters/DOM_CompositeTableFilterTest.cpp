@@ -36,21 +36,22 @@ std::string makeLeafData(const std::string& column)
 
 TEST(DOM_CompositeTableFilter, KeepsTheNestingOfItsFilters)
 {
-    expectText(makeFilter(), R"({"value0":{},"_type":1,"_filters":[)" +
-                                 makePolymorphicJson("QN::DOM::NullaryConditionTableFilter", makeLeafData("1")) + "," +
-                                 makePolymorphicJson("QN::DOM::CompositeTableFilter",
-                                                     R"({"value0":{},"_type":0,"_filters":[)" +
-                                                         makeLaterPolymorphicJson(makeLeafData("2")) +
-                                                         R"(,{"polymorphic_id":0}]})",
-                                                     2) +
-                                 "]}");
+    expectText(makeFilter(),
+               R"({"value0":{},"_type":1,"_filters":[)" +
+                   makePolymorphicJson("QN::DOM::NullaryConditionTableFilter", makeLeafData("1")) + "," +
+                   makePolymorphicJson("QN::DOM::CompositeTableFilter",
+                                       R"({"value0":{},"_type":0,"_filters":[)" +
+                                           makeLaterPolymorphicJson(makeLeafData("2")) +
+                                           R"(,{"polymorphic_id":0}]})",
+                                       2) +
+                   "]}");
     expectCopiesAndMoves(makeFilter());
 }
 
 TEST(DOM_CompositeTableFilter, IsOneOfItsFamily)
 {
-    expectInFamily<TableFilter>(CompositeTableFilter(CompositeTableFilterType::Or), "QN::DOM::CompositeTableFilter",
-                                R"({"value0":{},"_type":1,"_filters":[]})");
+    expectInFamily<TableFilter>(CompositeTableFilter(CompositeTableFilterType::Or),
+                                "QN::DOM::CompositeTableFilter", R"({"value0":{},"_type":1,"_filters":[]})");
 }
 
 TEST(DOM_CompositeTableFilter, SharesNoFilterWithItsCopy)

@@ -62,12 +62,14 @@ TEST(DOM_TableFilterInfoDeathTest, HasNothingButItsHeaderWhenAFileSaysSo)
 
 TEST(DOM_TableFilterInfo, WritesItsRangeAndItsFilter)
 {
-    expectText(makeInfo(),
-               R"({"_filterRange":{"_beginRow":{"_value":1},"_endRow":{"_value":9},"_beginColumn":{"_value":2},)"
-               R"("_endColumn":{"_value":5}},"_filter":)" +
-                   makePolymorphicJson("QN::DOM::ValuesTableFilter",
-                                       R"({"value0":{"value0":{},"_columnIndex":{"_value":3}},"_valuesToShow":[]})") +
-                   "}");
+    expectText(
+        makeInfo(),
+        R"({"_filterRange":{"_beginRow":{"_value":1},"_endRow":{"_value":9},"_beginColumn":{"_value":2},)"
+        R"("_endColumn":{"_value":5}},"_filter":)" +
+            makePolymorphicJson(
+                "QN::DOM::ValuesTableFilter",
+                R"({"value0":{"value0":{},"_columnIndex":{"_value":3}},"_valuesToShow":[]})") +
+            "}");
     expectCopiesAndMoves(makeInfo());
 }
 

@@ -21,7 +21,8 @@ ValuesTableFilter makeFilter()
 TEST(DOM_ValuesTableFilter, ShowsNothingByDefault)
 {
     EXPECT_TRUE(ValuesTableFilter().getValuesToShow().empty());
-    expectText(ValuesTableFilter(), R"({"value0":{"value0":{},"_columnIndex":{"_value":0}},"_valuesToShow":[]})");
+    expectText(ValuesTableFilter(),
+               R"({"value0":{"value0":{},"_columnIndex":{"_value":0}},"_valuesToShow":[]})");
 }
 
 TEST(DOM_ValuesTableFilter, KeepsOneOfEachTextAndWritesThemSorted)

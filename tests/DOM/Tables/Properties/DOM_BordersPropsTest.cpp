@@ -17,11 +17,13 @@ namespace {
 using namespace QN::Test;
 using Line = BordersProps::Line;
 
-constexpr std::array Getters{&BordersProps::getBottom,       &BordersProps::getLeft,       &BordersProps::getRight,
-                             &BordersProps::getTop,          &BordersProps::getDiagonalDown, &BordersProps::getDiagonalUp,
+constexpr std::array Getters{&BordersProps::getBottom,       &BordersProps::getLeft,
+                             &BordersProps::getRight,        &BordersProps::getTop,
+                             &BordersProps::getDiagonalDown, &BordersProps::getDiagonalUp,
                              &BordersProps::getVertical,     &BordersProps::getHorizontal};
-constexpr std::array Setters{&BordersProps::setBottom,       &BordersProps::setLeft,       &BordersProps::setRight,
-                             &BordersProps::setTop,          &BordersProps::setDiagonalDown, &BordersProps::setDiagonalUp,
+constexpr std::array Setters{&BordersProps::setBottom,       &BordersProps::setLeft,
+                             &BordersProps::setRight,        &BordersProps::setTop,
+                             &BordersProps::setDiagonalDown, &BordersProps::setDiagonalUp,
                              &BordersProps::setVertical,     &BordersProps::setHorizontal};
 
 /// Each edge has a width of its own.
@@ -48,8 +50,9 @@ TEST(DOM_BordersProps, HaveNoLineByDefault)
     }
     const std::string null = R"({"polymorphic_id":0})";
     expectText(BordersProps(), R"({"_bottom":)" + null + R"(,"_left":)" + null + R"(,"_right":)" + null +
-                                   R"(,"_top":)" + null + R"(,"_diagonalDown":)" + null + R"(,"_diagonalUp":)" + null +
-                                   R"(,"_vertical":)" + null + R"(,"_horizontal":)" + null + "}");
+                                   R"(,"_top":)" + null + R"(,"_diagonalDown":)" + null +
+                                   R"(,"_diagonalUp":)" + null + R"(,"_vertical":)" + null +
+                                   R"(,"_horizontal":)" + null + "}");
 }
 
 TEST(DOM_BordersProps, WriteTheirLinesAsSharedPolymorphicObjects)
@@ -58,14 +61,17 @@ TEST(DOM_BordersProps, WriteTheirLinesAsSharedPolymorphicObjects)
     borders.setBottom(makeLine(1.0F));
     borders.setRight(makeLine(2.0F));
     borders.setHorizontal(borders.getBottom());
-    expectText(borders,
-               R"({"_bottom":{"polymorphic_id":2147483649,"polymorphic_name":"QN::DOM::RegularLineProps",)"
-               R"("ptr_wrapper":{"id":2147483649,"data":)" + makeLineData("1.0") +
-                   R"(}},"_left":{"polymorphic_id":0},"_right":{"polymorphic_id":1,"ptr_wrapper":{"id":2147483650,)"
-                   R"("data":)" + makeLineData("2.0") +
-                   R"(}},"_top":{"polymorphic_id":0},"_diagonalDown":{"polymorphic_id":0},)"
-                   R"("_diagonalUp":{"polymorphic_id":0},"_vertical":{"polymorphic_id":0},)"
-                   R"("_horizontal":{"polymorphic_id":1,"ptr_wrapper":{"id":1}}})");
+    expectText(
+        borders,
+        R"({"_bottom":{"polymorphic_id":2147483649,"polymorphic_name":"QN::DOM::RegularLineProps",)"
+        R"("ptr_wrapper":{"id":2147483649,"data":)" +
+            makeLineData("1.0") +
+            R"(}},"_left":{"polymorphic_id":0},"_right":{"polymorphic_id":1,"ptr_wrapper":{"id":2147483650,)"
+            R"("data":)" +
+            makeLineData("2.0") +
+            R"(}},"_top":{"polymorphic_id":0},"_diagonalDown":{"polymorphic_id":0},)"
+            R"("_diagonalUp":{"polymorphic_id":0},"_vertical":{"polymorphic_id":0},)"
+            R"("_horizontal":{"polymorphic_id":1,"ptr_wrapper":{"id":1}}})");
 }
 
 TEST(DOM_BordersProps, ShareALineAgainWhenTheyAreLoaded)

@@ -142,7 +142,8 @@ TEST(DOM_GetPreferedBorder, IsTheColouredLineAmongEquallyWideOnes)
                makeStyledLine(DashStyle::Dot, 1.0F));
     expectWins(makeStyledLine(DashStyle::Dot, 1.0F, makeColor(255, 255, 255, 255)),
                makeStyledLine(DashStyle::Dot, 1.0F, makeSlotColor(ThemeColorId::Accent1)));
-    expectFirstWins(makeStyledLine(DashStyle::Dot, 1.0F, makePlaceholder()), makeStyledLine(DashStyle::Solid, 1.0F));
+    expectFirstWins(makeStyledLine(DashStyle::Dot, 1.0F, makePlaceholder()),
+                    makeStyledLine(DashStyle::Solid, 1.0F));
 }
 
 TEST(DOM_GetPreferedBorder, IsTheDarkerLineAmongEquallyWideOnes)

@@ -46,11 +46,12 @@ TEST(DOM_CellProps, WriteAllThatTheySay)
     CellProps props = makeFull();
     props.setBorders(nullptr);
     props.setMargins(nullptr);
-    expectText(props, R"({"_borders":{"ptr_wrapper":{"id":0}},"_margins":{"ptr_wrapper":{"id":0}},)"
-                      R"("_fill":{"polymorphic_id":2147483649,"polymorphic_name":"QN::DOM::NoFill",)"
-                      R"("ptr_wrapper":{"id":2147483649,"data":{"value0":{}}}},)"
-                      R"("_verticalAlignment":{"hasValue":true,"value":3},"_width":{"hasValue":true,"value":80.0},)"
-                      R"("_textLayout":{"hasValue":true,"value":2},"_textOrientation":{"which":2,"data":-45.0}})");
+    expectText(props,
+               R"({"_borders":{"ptr_wrapper":{"id":0}},"_margins":{"ptr_wrapper":{"id":0}},)"
+               R"("_fill":{"polymorphic_id":2147483649,"polymorphic_name":"QN::DOM::NoFill",)"
+               R"("ptr_wrapper":{"id":2147483649,"data":{"value0":{}}}},)"
+               R"("_verticalAlignment":{"hasValue":true,"value":3},"_width":{"hasValue":true,"value":80.0},)"
+               R"("_textLayout":{"hasValue":true,"value":2},"_textOrientation":{"which":2,"data":-45.0}})");
     expectPersists(makeFull());
     expectCopiesAndMoves(makeFull());
 }
@@ -111,9 +112,9 @@ TEST(DOM_CellProps, AreOverriddenByWhatTheOtherSays)
     const auto margins = target.getMargins();
     override(target, other);
     EXPECT_EQ(*target.getMargins(), with<Insets>([](Insets& insets) {
-                  insets.setLeft(5.0F);
-                  insets.setTop(1.0F);
-              }));
+        insets.setLeft(5.0F);
+        insets.setTop(1.0F);
+    }));
     EXPECT_EQ(*margins, *makeMargins(5.0F));
     EXPECT_EQ(target.getTextOrientation().which(), 1);
     EXPECT_EQ(target.getWidth(), 80.0F);
@@ -201,9 +202,9 @@ TEST(DOM_CellProps, AreRebasedWhereTheReferencesAgree)
 void expectDefaultProps(const CellProps& props, float sideMargin, int alignment, int layout)
 {
     EXPECT_EQ(*props.getMargins(), with<Insets>([&](Insets& insets) {
-                  insets.setLeft(sideMargin);
-                  insets.setRight(sideMargin);
-              }));
+        insets.setLeft(sideMargin);
+        insets.setRight(sideMargin);
+    }));
     EXPECT_EQ(props.getVerticalAlignment(), static_cast<VerticalAlignment>(alignment));
     EXPECT_EQ(props.getTextLayout(), static_cast<TextLayout>(layout));
     CellProps rest = props;

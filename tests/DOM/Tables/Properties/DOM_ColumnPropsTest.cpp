@@ -28,8 +28,9 @@ ColumnProps makeFull()
 
 TEST(DOM_ColumnProps, SayNothingByDefault)
 {
-    expectText(ColumnProps(), R"({"_isHidden":{"value":-1},"_isBestFit":{"value":-1},"_width":{"hasValue":false},)"
-                              R"("_groupingLevel":{"hasValue":false},"_hasPageBreakBefore":{"value":-1}})");
+    expectText(ColumnProps(),
+               R"({"_isHidden":{"value":-1},"_isBestFit":{"value":-1},"_width":{"hasValue":false},)"
+               R"("_groupingLevel":{"hasValue":false},"_hasPageBreakBefore":{"value":-1}})");
 }
 
 TEST(DOM_ColumnProps, WriteAllThatTheySay)
@@ -52,11 +53,12 @@ TEST(DOM_ColumnProps, AnswerWhatWasSet)
 
 TEST(DOM_ColumnProps, RefuseALevelPastOneByte)
 {
-    EXPECT_EQ(typeError<ColumnProps>(R"({"_isHidden":{"value":0},"_isBestFit":{"value":1},"_width":{"hasValue":)"
-                                     R"(false},"_groupingLevel":{"hasValue":true,"value":300},)"
-                                     R"("_hasPageBreakBefore":{"value":1}})")
-                  .front() == '<',
-              false);
+    EXPECT_EQ(
+        typeError<ColumnProps>(R"({"_isHidden":{"value":0},"_isBestFit":{"value":1},"_width":{"hasValue":)"
+                               R"(false},"_groupingLevel":{"hasValue":true,"value":300},)"
+                               R"("_hasPageBreakBefore":{"value":1}})")
+                .front() == '<',
+        false);
 }
 
 TEST(DOM_ColumnProps, OrderByTheirMembersInTurn)

@@ -35,7 +35,8 @@ TEST(DOM_GroupingProps, OrderByTheRowsAndThenByTheColumns)
                          props.setSummaryRight(false);
                      }),
                      with<GroupingProps>([](auto& props) { props.setSummaryBelow(false); }),
-                     with<GroupingProps>([](auto& props) { props.setSummaryRight(false); }), GroupingProps()});
+                     with<GroupingProps>([](auto& props) { props.setSummaryRight(false); }),
+                     GroupingProps()});
 }
 
 } // namespace

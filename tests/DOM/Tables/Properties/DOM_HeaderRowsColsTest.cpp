@@ -71,13 +71,16 @@ TEST(DOM_HeaderRowsColsDeathTest, TakeNoRangeThatLacksAnEnd)
     HeaderRowsCols headers;
     EXPECT_DEATH(headers.setRowRange(RowIDs{RowID(1), boost::none}), R"(rowRange->begin && rowRange->last)");
     EXPECT_DEATH(headers.setRowRange(RowIDs{boost::none, RowID(1)}), R"(rowRange->begin && rowRange->last)");
-    EXPECT_DEATH(headers.setColRange(ColumnIDs{ColumnID(1), boost::none}), R"(colRange->begin && colRange->last)");
-    EXPECT_DEATH(headers.setColRange(ColumnIDs{boost::none, ColumnID(1)}), R"(colRange->begin && colRange->last)");
+    EXPECT_DEATH(headers.setColRange(ColumnIDs{ColumnID(1), boost::none}),
+                 R"(colRange->begin && colRange->last)");
+    EXPECT_DEATH(headers.setColRange(ColumnIDs{boost::none, ColumnID(1)}),
+                 R"(colRange->begin && colRange->last)");
 }
 
 TEST(DOM_HeaderRowsCols, OrderByRowsAndThenByColumns)
 {
-    expectAscending({HeaderRowsCols(), with<HeaderRowsCols>([](auto& headers) { headers.setLastCol(ColumnID(1)); }),
+    expectAscending({HeaderRowsCols(),
+                     with<HeaderRowsCols>([](auto& headers) { headers.setLastCol(ColumnID(1)); }),
                      with<HeaderRowsCols>([](auto& headers) { headers.setBeginCol(ColumnID(1)); }),
                      with<HeaderRowsCols>([](auto& headers) { headers.setLastRow(RowID(1)); }),
                      with<HeaderRowsCols>([](auto& headers) { headers.setBeginRow(RowID(1)); })});

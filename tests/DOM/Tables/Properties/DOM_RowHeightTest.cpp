@@ -57,7 +57,10 @@ TEST(DOM_RowHeight, HoldsPlainValuesWhenItIsResolved)
 }
 
 template <class T>
-concept Persisted = requires(const T& value, cereal::JSONOutputArchive& archive) { value.serialize(archive); };
+concept Persisted = requires(const T& value, cereal::JSONOutputArchive& archive)
+{
+    value.serialize(archive);
+};
 
 TEST(DOM_RowHeight, IsPersistedInItsPartialFormAlone)
 {

@@ -31,10 +31,11 @@ TEST(DOM_RowProps, SayNothingByDefault)
 
 TEST(DOM_RowProps, WriteAllThatTheySay)
 {
-    expectText(makeFull(),
-               R"({"_isHidden":{"value":1},"_height":{"hasValue":true,"value":{"_value":{"hasValue":true,)"
-               R"("value":20.0},"_rule":{"hasValue":true,"value":1}}},"_groupingLevel":{"hasValue":true,"value":3},)"
-               R"("_hasPageBreakBefore":{"value":0}})");
+    expectText(
+        makeFull(),
+        R"({"_isHidden":{"value":1},"_height":{"hasValue":true,"value":{"_value":{"hasValue":true,)"
+        R"("value":20.0},"_rule":{"hasValue":true,"value":1}}},"_groupingLevel":{"hasValue":true,"value":3},)"
+        R"("_hasPageBreakBefore":{"value":0}})");
     expectCopiesAndMoves(makeFull());
 }
 
@@ -49,13 +50,12 @@ TEST(DOM_RowProps, AnswerWhatWasSet)
 
 TEST(DOM_RowProps, OrderByTheirMembersInTurn)
 {
-    expectAscending(
-        {RowProps(), with<RowProps>([](auto& props) { props.setPageBreakBefore(false); }),
-         with<RowProps>([](auto& props) { props.setGroupingLevel(std::uint8_t{0}); }),
-         with<RowProps>([](auto& props) { props.setHeight(RowHeight()); }),
-         with<RowProps>([](auto& props) { props.setHeight(RowHeight(1.0F, boost::none)); }),
-         with<RowProps>([](auto& props) { props.setHidden(false); }),
-         with<RowProps>([](auto& props) { props.setHidden(true); })});
+    expectAscending({RowProps(), with<RowProps>([](auto& props) { props.setPageBreakBefore(false); }),
+                     with<RowProps>([](auto& props) { props.setGroupingLevel(std::uint8_t{0}); }),
+                     with<RowProps>([](auto& props) { props.setHeight(RowHeight()); }),
+                     with<RowProps>([](auto& props) { props.setHeight(RowHeight(1.0F, boost::none)); }),
+                     with<RowProps>([](auto& props) { props.setHidden(false); }),
+                     with<RowProps>([](auto& props) { props.setHidden(true); })});
 }
 
 TEST(DOM_RowProps, HoldPlainValuesWhenTheyAreResolved)

@@ -28,7 +28,8 @@ TEST(DOM_TableProps, AreVisibleAndSayNothingOfAnIndentByDefault)
 
 TEST(DOM_TableProps, WriteAllThatTheySay)
 {
-    expectText(makeProps(false, 36.0F), R"({"_isVisible":false,"_leadingIndent":{"hasValue":true,"value":36.0}})");
+    expectText(makeProps(false, 36.0F),
+               R"({"_isVisible":false,"_leadingIndent":{"hasValue":true,"value":36.0}})");
     expectCopiesAndMoves(makeProps(false, 36.0F));
     EXPECT_EQ(makeProps(false, 36.0F).getLeadingIndent(), 36.0F);
 }
@@ -70,9 +71,11 @@ TEST(DOM_TablePropsDeathTest, StopTheProcessWhenTwoOfDifferentVisibilityIntersec
 TEST(DOM_TableProps, TakeTheVisibilityOfTheReplacementWhereTheReferencesAgree)
 {
     TableProps target = makeProps(true, boost::none);
-    rebaseProperty(target, makeProps(false, boost::none), makeProps(true, boost::none), makeProps(false, boost::none));
+    rebaseProperty(target, makeProps(false, boost::none), makeProps(true, boost::none),
+                   makeProps(false, boost::none));
     EXPECT_TRUE(target.isVisible());
-    rebaseProperty(target, makeProps(false, boost::none), makeProps(true, boost::none), makeProps(true, boost::none));
+    rebaseProperty(target, makeProps(false, boost::none), makeProps(true, boost::none),
+                   makeProps(true, boost::none));
     EXPECT_FALSE(target.isVisible());
 }
 

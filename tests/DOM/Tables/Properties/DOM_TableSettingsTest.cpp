@@ -26,16 +26,18 @@ TEST(DOM_TableSettings, WriteWhatWasSet)
         changed.setShowZeroValue(false);
         changed.getGroupingProps().setSummaryRight(false);
     });
-    expectText(settings,
-               R"({"_showZeroValue":false,"_groupingProps":{"_isSummaryBelow":true,"_isSummaryRight":false}})");
+    expectText(
+        settings,
+        R"({"_showZeroValue":false,"_groupingProps":{"_isSummaryBelow":true,"_isSummaryRight":false}})");
     expectCopiesAndMoves(settings);
 }
 
 TEST(DOM_TableSettings, OrderByTheirMembersInTurn)
 {
-    expectAscending({with<TableSettings>([](auto& settings) { settings.setShowZeroValue(false); }),
-                     with<TableSettings>([](auto& settings) { settings.getGroupingProps().setSummaryBelow(false); }),
-                     TableSettings()});
+    expectAscending(
+        {with<TableSettings>([](auto& settings) { settings.setShowZeroValue(false); }),
+         with<TableSettings>([](auto& settings) { settings.getGroupingProps().setSummaryBelow(false); }),
+         TableSettings()});
 }
 
 } // namespace

@@ -349,4 +349,4 @@ TEST(JSONInputArchiveTest, TargetIsReplacedAndNotAppendedTo)
 
 } // namespace
 
-}  // namespace QN::JSONInputArchiveTest
+} // namespace QN::JSONInputArchiveTest

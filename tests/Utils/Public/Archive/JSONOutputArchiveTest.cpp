@@ -279,4 +279,4 @@ TEST(JSONOutputArchiveTest, ExceptionOfTheStreamPassesThroughButNotOutOfTheDestr
 
 } // namespace
 
-}  // namespace QN::JSONOutputArchiveTest
+} // namespace QN::JSONOutputArchiveTest

@@ -167,7 +167,8 @@ TEST(JSONTapeTest, ReadsTheTokensOfNumbersThatAreNotFinite)
 TEST(JSONTapeTest, UnescapesStringsInPlace)
 {
     EXPECT_EQ(parseString(R"("\"\\\/\b\f\n\r\t")"), "\"\\/\b\f\n\r\t");
-    EXPECT_EQ(parseString(R"("a\u0041\u00e9\u20AC\ud83d\ude00z")"), "aA\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80z");
+    EXPECT_EQ(parseString(R"("a\u0041\u00e9\u20AC\ud83d\ude00z")"),
+              "aA\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80z");
     EXPECT_EQ(parseString("\"\\u0000x\""), std::string("\0x", 2));
     EXPECT_EQ(parseString("\"0123456789 0123456789\\n0123456789 0123456789\""),
               "0123456789 0123456789\n0123456789 0123456789");
@@ -180,11 +181,51 @@ TEST(JSONTapeTest, KeepsBytesThatAreNoUtf8)
 
 TEST(JSONTapeTest, RefusesWhatIsNotJSON)
 {
-    for (const char* text :
-         {"", " ", "{", "}", "[", "]", "{]", "[}", "[1,]", "[,1]", "{,}", "{\"a\"}", "{\"a\":}", "{\"a\":1,}",
-          "{1:2}", "{\"a\":1 \"b\":2}", "[1 2]", "01", "-", "+1", "1.", ".5", "1e", "1e+", "-01", "tru", "nul",
-          "falsy", "NAN", "Inf", "-NaN", "\"", "\"\\x\"", "\"\\u12\"", "\"\\u12G4\"", "\"\\ud800\"",
-          "\"\\ud800\\u0041\"", "\"\\udc00\"", "\"a\nb\"", "'a'", "1 1", "{}{}", "// c\n1", "[1]x", "\xEF\xBB\xBF{}"}) {
+    for (const char* text : {"",
+                             " ",
+                             "{",
+                             "}",
+                             "[",
+                             "]",
+                             "{]",
+                             "[}",
+                             "[1,]",
+                             "[,1]",
+                             "{,}",
+                             "{\"a\"}",
+                             "{\"a\":}",
+                             "{\"a\":1,}",
+                             "{1:2}",
+                             "{\"a\":1 \"b\":2}",
+                             "[1 2]",
+                             "01",
+                             "-",
+                             "+1",
+                             "1.",
+                             ".5",
+                             "1e",
+                             "1e+",
+                             "-01",
+                             "tru",
+                             "nul",
+                             "falsy",
+                             "NAN",
+                             "Inf",
+                             "-NaN",
+                             "\"",
+                             "\"\\x\"",
+                             "\"\\u12\"",
+                             "\"\\u12G4\"",
+                             "\"\\ud800\"",
+                             "\"\\ud800\\u0041\"",
+                             "\"\\udc00\"",
+                             "\"a\nb\"",
+                             "'a'",
+                             "1 1",
+                             "{}{}",
+                             "// c\n1",
+                             "[1]x",
+                             "\xEF\xBB\xBF{}"}) {
         EXPECT_FALSE(isParsed(text)) << text;
     }
 }
@@ -269,7 +310,8 @@ TEST(JSONTapeTest, AgreesWithAnotherParserOnRandomNumbers)
             const JSONTape tape(text);
             if (tape.root().kind == Kind::Double) {
                 // The other parser gives a wrong number for some zeros with an exponent.
-                EXPECT_EQ(std::bit_cast<double>(tape.root().payload), std::strtod(text.c_str(), nullptr)) << text;
+                EXPECT_EQ(std::bit_cast<double>(tape.root().payload), std::strtod(text.c_str(), nullptr))
+                    << text;
             } else {
                 expectSame(tape.root(), document);
             }
@@ -279,4 +321,4 @@ TEST(JSONTapeTest, AgreesWithAnotherParserOnRandomNumbers)
 
 } // namespace
 
-}  // namespace QN::JSONTapeTest
+} // namespace QN::JSONTapeTest

@@ -182,4 +182,4 @@ TEST(JSONTextTest, OnlyAStringReadsAsAString)
 
 } // namespace
 
-}  // namespace QN::JSONTextTest
+} // namespace QN::JSONTextTest

@@ -323,4 +323,4 @@ TEST(PersistPointersTest, SharedConstPointerIsASharedPointerUnderValue)
 
 } // namespace
 
-}  // namespace QN::PersistPointersTest
+} // namespace QN::PersistPointersTest

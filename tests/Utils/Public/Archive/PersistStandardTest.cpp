@@ -229,4 +229,4 @@ TEST(PersistStandardTest, LoadedContainerHoldsNothingOfTheFormerOne)
 
 } // namespace
 
-}  // namespace QN::PersistStandardTest
+} // namespace QN::PersistStandardTest

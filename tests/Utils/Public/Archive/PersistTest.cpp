@@ -261,4 +261,4 @@ TEST(PersistTest, FailedLoadLeavesWhatWasReadUntilThen)
 
 } // namespace
 
-}  // namespace QN::PersistTest
+} // namespace QN::PersistTest

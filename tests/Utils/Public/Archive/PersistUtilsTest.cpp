@@ -196,4 +196,4 @@ TEST(PersistUtilsTest, PolygonIsItsPointsAndWhetherItIsClosed)
 
 } // namespace
 
-}  // namespace QN::PersistUtilsTest
+} // namespace QN::PersistUtilsTest

@@ -363,4 +363,4 @@ TEST(PolymorphicPointersTest, PlainFormOfAFamilyClassIsAvailableWhereAskedFor)
 
 } // namespace
 
-}  // namespace QN::PolymorphicPointersTest
+} // namespace QN::PolymorphicPointersTest

@@ -120,4 +120,4 @@ TEST(PolymorphicRegistryTest, MissingRelationIsReportedWithBothNames)
 
 } // namespace
 
-}  // namespace QN::PolymorphicRegistryTest
+} // namespace QN::PolymorphicRegistryTest

@@ -31,4 +31,4 @@ TEST(RapidJSONTest, ExceptionsFormOneLine)
 
 } // namespace
 
-}  // namespace QN::RapidJSONTest
+} // namespace QN::RapidJSONTest

@@ -266,4 +266,4 @@ TEST(CopyTest, AssignmentThatFailsLeavesTheTargetAndLeaksNothing)
 
 } // namespace
 
-}  // namespace QN::CopyTest
+} // namespace QN::CopyTest

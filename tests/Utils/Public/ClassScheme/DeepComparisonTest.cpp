@@ -204,4 +204,4 @@ TEST(DeepComparisonTest, ComparingAllocatesNothing)
 
 } // namespace
 
-}  // namespace QN::DeepComparisonTest
+} // namespace QN::DeepComparisonTest

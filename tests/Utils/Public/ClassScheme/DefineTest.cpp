@@ -201,4 +201,4 @@ TEST(DefineTest, ClassMayDepartFromItsList)
 
 } // namespace
 
-}  // namespace QN::DefineTest
+} // namespace QN::DefineTest

@@ -205,4 +205,4 @@ TEST(EqualityTest, ClassComparesItsBasesAndItsListedMembers)
 
 } // namespace
 
-}  // namespace QN::EqualityTest
+} // namespace QN::EqualityTest

@@ -15,7 +15,6 @@ namespace QN::MembersTest {
 
 namespace {
 
-
 struct First {};
 struct Second {};
 struct Undescribed {};
@@ -123,4 +122,4 @@ TEST(MembersTest, WalkEndsAtTheFirstRefusal)
 
 } // namespace
 
-}  // namespace QN::MembersTest
+} // namespace QN::MembersTest

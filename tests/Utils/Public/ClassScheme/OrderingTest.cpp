@@ -261,4 +261,4 @@ TEST(OrderingTest, ComparingAllocatesNothing)
 
 } // namespace
 
-}  // namespace QN::OrderingTest
+} // namespace QN::OrderingTest

@@ -22,7 +22,6 @@ namespace QN::TypeTraitsTest {
 
 namespace {
 
-
 TEST(TypeTraitsTest, InstancesOfATemplateAreTold)
 {
     static_assert(IsOptional<boost::optional<int>> && !IsOptional<int>);
@@ -71,4 +70,4 @@ TEST(TypeTraitsTest, PlainPointerOfAnySmartPointerIsReached)
 
 } // namespace
 
-}  // namespace QN::TypeTraitsTest
+} // namespace QN::TypeTraitsTest

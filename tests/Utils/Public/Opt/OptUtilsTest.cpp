@@ -30,7 +30,8 @@ TEST(OptUtilsTest, FalseValueIsAValue)
 
 TEST(OptUtilsTest, TakesTheValueOutOfATemporary)
 {
-    const std::unique_ptr<int> taken = getRequired(boost::optional<std::unique_ptr<int>>(std::make_unique<int>(5)));
+    const std::unique_ptr<int> taken =
+        getRequired(boost::optional<std::unique_ptr<int>>(std::make_unique<int>(5)));
     EXPECT_EQ(*taken, 5);
 }
 
@@ -44,4 +45,4 @@ TEST(OptUtilsDeathTest, EmptyOptionalBreaksTheContract)
 
 } // namespace
 
-}  // namespace QN::OptUtilsTest
+} // namespace QN::OptUtilsTest

@@ -50,4 +50,4 @@ TEST(CheckedPtrDeathTest, DereferencingNullBreaksTheContract)
 
 } // namespace
 
-}  // namespace QN::CheckedPtrTest
+} // namespace QN::CheckedPtrTest

@@ -102,4 +102,4 @@ TEST(PropagateConstPtrDeathTest, DereferencingNullBreaksTheContract)
 
 } // namespace
 
-}  // namespace QN::PropagateConstPtrTest
+} // namespace QN::PropagateConstPtrTest

@@ -35,7 +35,8 @@ TEST(PtrUtilsTest, GivesThePointeeOfAnyPointer)
 TEST(PtrUtilsTest, ConstnessIsThatOfThePointee)
 {
     static_assert(std::is_same_v<decltype(derefRequired(std::declval<const std::unique_ptr<int>&>())), int&>);
-    static_assert(std::is_same_v<decltype(derefRequired(std::declval<std::shared_ptr<const int>&>())), const int&>);
+    static_assert(
+        std::is_same_v<decltype(derefRequired(std::declval<std::shared_ptr<const int>&>())), const int&>);
 }
 
 TEST(PtrUtilsDeathTest, NullPointerToNonConstBreaksTheContractOfLine246)
@@ -62,4 +63,4 @@ TEST(PtrUtilsDeathTest, NullPointerToConstBreaksTheContractOfLine254)
 
 } // namespace
 
-}  // namespace QN::PtrUtilsTest
+} // namespace QN::PtrUtilsTest

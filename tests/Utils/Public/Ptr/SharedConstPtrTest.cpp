@@ -91,4 +91,4 @@ TEST(SharedConstPtrDeathTest, DereferencingNullBreaksTheContract)
 
 } // namespace
 
-}  // namespace QN::SharedConstPtrTest
+} // namespace QN::SharedConstPtrTest

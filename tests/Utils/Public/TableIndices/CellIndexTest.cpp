@@ -38,4 +38,4 @@ TEST(CellIndexTest, ComparesRowBeforeColumn)
 
 } // namespace
 
-}  // namespace QN::CellIndexTest
+} // namespace QN::CellIndexTest

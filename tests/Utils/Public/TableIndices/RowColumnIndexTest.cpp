@@ -25,7 +25,8 @@ TEST(RowColumnIndexTest, IsTaggedByItsPlaceInTheEnumeration)
     using QN::RowOrColumnTag;
     using QN::TaggedValue;
     using QN::TypeUtils::ValueTag;
-    static_assert(std::is_same_v<RowIndex, TaggedValue<unsigned long, ValueTag<RowOrColumnTag, (RowOrColumnTag)0>>>);
+    static_assert(
+        std::is_same_v<RowIndex, TaggedValue<unsigned long, ValueTag<RowOrColumnTag, (RowOrColumnTag)0>>>);
     static_assert(
         std::is_same_v<ColumnIndex, TaggedValue<unsigned long, ValueTag<RowOrColumnTag, (RowOrColumnTag)1>>>);
 }
@@ -39,4 +40,4 @@ TEST(RowColumnIndexTest, CountsFromZeroOver64Bits)
 
 } // namespace
 
-}  // namespace QN::RowColumnIndexTest
+} // namespace QN::RowColumnIndexTest

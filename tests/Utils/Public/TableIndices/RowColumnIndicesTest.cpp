@@ -39,4 +39,4 @@ TEST(RowColumnIndicesDeathTest, EndBeforeTheBeginBreaksTheContract)
 
 } // namespace
 
-}  // namespace QN::RowColumnIndicesTest
+} // namespace QN::RowColumnIndicesTest

@@ -24,7 +24,8 @@ constexpr std::uint64_t SignedLimit = std::uint64_t{1} << 63U;
 constexpr int MaxOffset = std::numeric_limits<int>::max();
 constexpr int MinOffset = std::numeric_limits<int>::min();
 
-TableRange makeRange(std::uint64_t beginRow, std::uint64_t endRow, std::uint64_t beginColumn, std::uint64_t endColumn)
+TableRange makeRange(std::uint64_t beginRow, std::uint64_t endRow, std::uint64_t beginColumn,
+                     std::uint64_t endColumn)
 {
     return {RowIndex(beginRow), RowIndex(endRow), ColumnIndex(beginColumn), ColumnIndex(endColumn)};
 }
@@ -115,7 +116,8 @@ TEST(TableRangeTest, ContainmentAndIntersectionAreThoseOfTheSetsOfCells)
         }
         for (std::uint64_t row = 0; row < 4; ++row) {
             for (std::uint64_t column = 0; column < 3; ++column) {
-                EXPECT_EQ(left.contains(CellIndex(RowIndex(row), ColumnIndex(column))), leftCells[row * 3 + column]);
+                EXPECT_EQ(left.contains(CellIndex(RowIndex(row), ColumnIndex(column))),
+                          leftCells[row * 3 + column]);
             }
         }
     }
@@ -179,18 +181,20 @@ TEST(TableRangeTest, OrdersByRowsBeforeColumnsAndBeginsBeforeEnds)
 TEST(TableRangeDeathTest, EmptyRangeBreaksTheContract)
 {
     EXPECT_DEATH(makeRange(3, 3, 0, 1), "Utils/Public/TableIndices/TableRange:229: _beginRow < _endRow\n");
-    EXPECT_DEATH(makeRange(0, 1, 3, 3), "Utils/Public/TableIndices/TableRange:230: _beginColumn < _endColumn\n");
+    EXPECT_DEATH(makeRange(0, 1, 3, 3),
+                 "Utils/Public/TableIndices/TableRange:230: _beginColumn < _endColumn\n");
     EXPECT_DEATH(makeRange(0, 0, 0, 0), "Utils/Public/TableIndices/TableRange:229: _beginRow < _endRow\n");
 }
 
 TEST(TableRangeDeathTest, ReversedRangeBreaksTheContract)
 {
     EXPECT_DEATH(makeRange(4, 3, 0, 1), "Utils/Public/TableIndices/TableRange:229: _beginRow < _endRow\n");
-    EXPECT_DEATH(makeRange(0, 1, 4, 3), "Utils/Public/TableIndices/TableRange:230: _beginColumn < _endColumn\n");
+    EXPECT_DEATH(makeRange(0, 1, 4, 3),
+                 "Utils/Public/TableIndices/TableRange:230: _beginColumn < _endColumn\n");
     EXPECT_DEATH(TableRange(CellIndex(RowIndex(1), ColumnIndex(1)), CellIndex()),
                  "Utils/Public/TableIndices/TableRange:229: _beginRow < _endRow\n");
 }
 
 } // namespace
 
-}  // namespace QN::TableRangeTest
+} // namespace QN::TableRangeTest
