@@ -46,7 +46,8 @@ void shuffle(Value& value, Allocator& allocator, std::mt19937& random)
         return;
     }
     std::vector<std::pair<std::string, Value>> members;
-    for (auto& member : value.GetObject()) {
+    for (rapidjson::SizeType place = 0; place < value.MemberCount(); ++place) {
+        auto& member = value.MemberBegin()[static_cast<std::ptrdiff_t>(place)];
         shuffle(member.value, allocator, random);
         members.emplace_back(std::string(member.name.GetString(), member.name.GetStringLength()),
                              std::move(member.value));
@@ -72,8 +73,8 @@ void forEachObject(Value& value, const std::function<void(Value& object)>& visit
         }
     } else if (value.IsObject()) {
         visit(value);
-        for (auto& member : value.GetObject()) {
-            forEachObject(member.value, visit);
+        for (rapidjson::SizeType place = 0; place < value.MemberCount(); ++place) {
+            forEachObject(value.MemberBegin()[static_cast<std::ptrdiff_t>(place)].value, visit);
         }
     }
 }

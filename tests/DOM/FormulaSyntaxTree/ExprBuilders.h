@@ -93,12 +93,15 @@ inline void expectNode(const std::unique_ptr<Expr>& node)
     expectPersists(node);
     const auto copy = clone(*node);
     EXPECT_NE(copy.get(), node.get());
-    EXPECT_EQ(typeid(*copy), typeid(*node));
+    const Expr& original = *node;
+    const Expr& copied = *copy;
+    EXPECT_EQ(typeid(copied), typeid(original));
     EXPECT_TRUE(areDeeplyEqual(*copy, *node));
 
     std::shared_ptr<Expr> shared;
     node->cloneTo(shared);
-    EXPECT_EQ(typeid(*shared), typeid(*node));
+    const Expr& sharedCopy = *shared;
+    EXPECT_EQ(typeid(sharedCopy), typeid(original));
     EXPECT_TRUE(areDeeplyEqual(*shared, *node));
 
     const UnaryPlus other{ExprPtr(std::make_unique<Empty>())};

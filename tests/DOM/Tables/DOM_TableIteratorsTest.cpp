@@ -80,7 +80,7 @@ TEST(DOM_TableCellIt, EqualsItsEndAtOnceInATableWithoutCells)
 
 TEST(DOM_TableCellIt, VisitsTheStoredCellsInOrder)
 {
-    for (const std::uint64_t maxChunkSize : {0, 1, 2, 3, 20000}) {
+    for (const std::uint64_t maxChunkSize : {0U, 1U, 2U, 3U, 20000U}) {
         const Table table = makeSparse(maxChunkSize);
         EXPECT_EQ(getPositions(table.getTableIterators()), SparsePositions) << maxChunkSize;
         EXPECT_EQ(getPositionsBackwards(table.getTableIterators()), SparsePositions) << maxChunkSize;
@@ -218,7 +218,7 @@ TEST(DOM_TableCellIt, EndsWhateverTheOffsetsOfAFile)
 
 TEST(DOM_CellRangeIt, VisitsTheStoredCellsOfARange)
 {
-    for (const std::uint64_t maxChunkSize : {1, 2, 20000}) {
+    for (const std::uint64_t maxChunkSize : {1U, 2U, 20000U}) {
         const Table table = makeSparse(maxChunkSize);
         const auto positionsOf = [&](const TableRange& range) {
             return getPositions(table.getRangeIterators(range));
@@ -234,7 +234,7 @@ TEST(DOM_CellRangeIt, VisitsTheStoredCellsOfARange)
 
 TEST(DOM_CellRangeIt, StepsBackThroughARange)
 {
-    for (const std::uint64_t maxChunkSize : {1, 2, 20000}) {
+    for (const std::uint64_t maxChunkSize : {1U, 2U, 20000U}) {
         const Table table = makeSparse(maxChunkSize);
         for (const TableRange& range :
              {makeRange(0, 10, 0, 6), makeRange(0, 5, 1, 3), makeRange(1, 10, 2, 6), makeRange(0, 9, 3, 9),
@@ -346,7 +346,7 @@ void expectLookups(const Table& table, const Iterators& iterators)
 
 TEST(DOM_LogicalCellIt, FindsEachStoredCellInItsPlace)
 {
-    for (const std::uint64_t maxChunkSize : {1, 2, 20000}) {
+    for (const std::uint64_t maxChunkSize : {1U, 2U, 20000U}) {
         const Table table = makeSparse(maxChunkSize);
         expectLookups(table, table.getTableLogicalIterators());
         for (const TableRange& range :

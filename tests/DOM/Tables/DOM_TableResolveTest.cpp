@@ -18,10 +18,10 @@ constexpr std::uint64_t Inserted = 5'000'000'000;
 Table makeTable()
 {
     Table table(RowIndex(10), ColumnIndex(10));
-    for (const std::uint64_t row : {0, 3, 4, 9}) {
+    for (const std::uint64_t row : {0U, 3U, 4U, 9U}) {
         table.replaceRowWithTombstone(Position(row));
     }
-    for (const std::uint64_t column : {0, 5}) {
+    for (const std::uint64_t column : {0U, 5U}) {
         table.replaceColWithTombstone(Position(column));
     }
     return table;

@@ -47,7 +47,7 @@ TEST(DOM_Table, FindsACellByTheIdentifiersOfItsRowAndColumn)
 TEST(DOM_Table, KeepsTheCellsOfARowSortedByColumn)
 {
     Table table;
-    for (const std::uint64_t column : {5, 1, 3}) {
+    for (const std::uint64_t column : {5U, 1U, 3U}) {
         setNumber(table, 0, column, static_cast<double>(column));
     }
     EXPECT_EQ(getChunkTexts(table), (ChunkTexts{"0: 2=1 4=3 6=5"}));
