@@ -281,4 +281,7 @@
 #include "DOM/Tables/Properties/DOM_RowProps.h"
 #include "DOM/Tables/Properties/DOM_TableProps.h"
 #include "DOM/Tables/Properties/DOM_TableSettings.h"
+#include "DOM/Utils/DOM_NativeDOMNodeType.h"
+#include "DOM/Utils/DOM_NodeAddress.h"
+#include "DOM/Utils/DOM_NodeAddressUtils.h"
 #include "Utils/Public/Archive/JSONArchives.h"

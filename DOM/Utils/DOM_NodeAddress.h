@@ -1,0 +1,21 @@
+#pragma once
+
+#include <iosfwd>
+
+#include "DOM/Utils/DOM_NativeDOMNodeType.h"
+#include "Utils/Public/NodeAddressing/NodeAddress.h"
+
+namespace QN::DOM {
+
+struct NativeNodeAddressTag {};
+
+/// The address of a node in a `Document`.
+using NodeAddress = NodeAddressing::NodeAddress<NativeNodeAddressTag, NativeDOMNodeType>;
+
+/// Writes `toString()`.
+DOM_API std::ostream& operator<<(std::ostream& stream, const NodeAddress& address);
+
+} // namespace QN::DOM
+
+extern template class DOM_API
+    QN::NodeAddressing::NodeAddress<QN::DOM::NativeNodeAddressTag, QN::DOM::NativeDOMNodeType>;
