@@ -77,7 +77,9 @@ TEST(ExprTest, EveryTypeHasItsRegisteredName)
                   0U)
             << json;
         const auto loaded = fromJson<Pointer>(json);
-        EXPECT_EQ(typeid(*loaded), typeid(*node)) << name;
+        const Expr& read = *loaded;
+        const Expr& written = *node;
+        EXPECT_EQ(typeid(read), typeid(written)) << name;
     }
 }
 

@@ -59,7 +59,9 @@ TEST(PathCommand, LoadsEachKindAsItsOwnClass)
     const auto loaded = fromJson<std::vector<std::unique_ptr<PathCommand>>>(toJson(kinds));
     ASSERT_EQ(loaded.size(), kinds.size());
     for (std::size_t index = 0; index < kinds.size(); ++index) {
-        EXPECT_EQ(typeid(*loaded[index]), typeid(*kinds[index]));
+        const PathCommand& read = *loaded[index];
+        const PathCommand& written = *kinds[index];
+        EXPECT_EQ(typeid(read), typeid(written));
     }
 }
 

@@ -48,7 +48,9 @@ TEST(DrawingFormulasExpression, LoadsEachKindAsItsOwnClass)
     const auto loaded = fromJson<std::vector<std::unique_ptr<Expression>>>(toJson(kinds));
     ASSERT_EQ(loaded.size(), kinds.size());
     for (std::size_t index = 0; index < kinds.size(); ++index) {
-        EXPECT_EQ(typeid(*loaded[index]), typeid(*kinds[index]));
+        const Expression& read = *loaded[index];
+        const Expression& written = *kinds[index];
+        EXPECT_EQ(typeid(read), typeid(written));
     }
 }
 
