@@ -50,6 +50,11 @@ void HeaderFooterPair::setHeaderOrFooter(TextWithTombstones&& text, HeaderFooter
     select(type, _header, _footer) = std::make_unique<TextWithTombstones>(std::move(text));
 }
 
+const TextWithTombstones* HeaderFooterPair::findHeaderOrFooter(HeaderFooterType type) const
+{
+    return asConst(select(type, _header, _footer));
+}
+
 const boost::optional<PageNumber>& HeaderFooterPair::getHeaderOrFooterPageNumber(HeaderFooterType type) const
 {
     return select(type, _headerPageNumber, _footerPageNumber);

@@ -41,6 +41,8 @@ public:
     const TextWithTombstones& getHeaderOrFooter(HeaderFooterType type) const;
     TextWithTombstones& getHeaderOrFooter(HeaderFooterType type);
     void setHeaderOrFooter(TextWithTombstones&& text, HeaderFooterType type);
+    /// Null for a text that is missing: for who must look before reading.
+    const TextWithTombstones* findHeaderOrFooter(HeaderFooterType type) const;
 
     const boost::optional<PageNumber>& getHeaderPageNumber() const { return _headerPageNumber; }
     void setHeaderPageNumber(boost::optional<PageNumber> number) { _headerPageNumber = std::move(number); }

@@ -120,15 +120,20 @@ void RowColIDContainer::remove(std::uint64_t index)
 
 void RowColIDContainer::validate() const
 {
+    validate(stopAtContract);
+}
+
+void RowColIDContainer::validate(const ContractSink& sink) const
+{
     for (const IndexID& indexId : _insertedItems) {
-        QN_ASSERT(indexId.id > _predefinedIDsCount);
+        QN_REPORT_UNLESS(indexId.id > _predefinedIDsCount, sink);
         const auto it = _idToIndex.find(indexId.id);
-        QN_ASSERT(it != _idToIndex.end() && it->second == indexId.index);
+        QN_REPORT_UNLESS(it != _idToIndex.end() && it->second == indexId.index, sink);
     }
     for (const auto& [id, index] : _idToIndex) {
-        QN_ASSERT(id > _predefinedIDsCount);
+        QN_REPORT_UNLESS(id > _predefinedIDsCount, sink);
         const auto it = iteratorAt(_insertedItems, findItemLowerBound(index));
-        QN_ASSERT(it != _insertedItems.end() && it->index == index && it->id == id);
+        QN_REPORT_UNLESS(it != _insertedItems.end() && it->index == index && it->id == id, sink);
     }
 }
 

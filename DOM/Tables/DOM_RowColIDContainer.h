@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "Utils/Public/ClassScheme/Declare.h"
+#include "Utils/Public/ContractSink.h"
 
 namespace QN::DOM {
 
@@ -76,6 +77,8 @@ public:
 
     /// A broken invariant of the inserted items fails a contract.
     void validate() const;
+    /// Reports each broken invariant instead.
+    void validate(const ContractSink& sink) const;
 
     QN_VALUE(RowColIDContainer)
 

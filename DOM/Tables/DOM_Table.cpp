@@ -64,8 +64,13 @@ void Table::setHeaderRowsCols(RowIndex beginRow, ColumnIndex beginColumn, RowInd
 
 void Table::validate() const
 {
-    _rowIDContainer.validate();
-    _colIDContainer.validate();
+    validate(stopAtContract);
+}
+
+void Table::validate(const ContractSink& sink) const
+{
+    _rowIDContainer.validate(sink);
+    _colIDContainer.validate(sink);
 
     struct Bounds {
         RowIndex rowIndex;
@@ -73,11 +78,11 @@ void Table::validate() const
     };
     const auto toBounds = [](const CellIndex& cell) { return Bounds{cell.getRow(), cell.getColumn()}; };
     const Bounds mergedCellsBounds = toBounds(_mergedCellsCache.getBottomRightCellIndex());
-    QN_ASSERT(getLiveRowsCount().get() > mergedCellsBounds.rowIndex.get());
-    QN_ASSERT(getLiveColsCount().get() > mergedCellsBounds.colIndex.get());
+    QN_REPORT_UNLESS(getLiveRowsCount().get() > mergedCellsBounds.rowIndex.get(), sink);
+    QN_REPORT_UNLESS(getLiveColsCount().get() > mergedCellsBounds.colIndex.get(), sink);
     const Bounds pivotTablesBounds = toBounds(_pivotTablesCache.getBottomRightCellIndex());
-    QN_ASSERT(getLiveRowsCount().get() > pivotTablesBounds.rowIndex.get());
-    QN_ASSERT(getLiveColsCount().get() > pivotTablesBounds.colIndex.get());
+    QN_REPORT_UNLESS(getLiveRowsCount().get() > pivotTablesBounds.rowIndex.get(), sink);
+    QN_REPORT_UNLESS(getLiveColsCount().get() > pivotTablesBounds.colIndex.get(), sink);
 }
 
 } // namespace QN::DOM

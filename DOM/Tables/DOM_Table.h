@@ -35,6 +35,7 @@
 #include "DOM/Tables/Properties/DOM_TableSettings.h"
 #include "Utils/Public/BaseRuntimeError.h"
 #include "Utils/Public/CallableRef.h"
+#include "Utils/Public/ContractSink.h"
 #include "Utils/Public/ReadonlyVector.h"
 #include "Utils/Public/Size2D.h"
 #include "Utils/Public/TableIndices/TableRange.h"
@@ -123,6 +124,7 @@ public:
     /// Nothing for the root of a merged range and for a cell outside all of them.
     boost::optional<CellIndex> getMergedCellRoot(RowIndex row, ColumnIndex column) const;
     boost::optional<TableRange> getMergedRange(RowIndex row, ColumnIndex column) const;
+    const MergedCellsCache& getMergedCellsCache() const { return _mergedCellsCache; }
 
     // Pivot tables.
 
@@ -136,6 +138,7 @@ public:
     /// True when an insertion at the position would cut a pivot table: the opposite of what the names promise.
     bool canInsertRow(RowIndex row) const;
     bool canInsertColumn(ColumnIndex column) const;
+    const PivotTablesCache& getPivotTablesCache() const { return _pivotTablesCache; }
 
     // Rows. A position among tombstones counts them. Where a row or column with the same inserted identifier is live,
     // inserting and restoring throw `BadRowColIDException` and change nothing; a predefined identifier that is live is
@@ -325,6 +328,8 @@ public:
     /// Checks the identifiers, and that merged ranges and pivot tables lie inside the live rows and columns. A broken
     /// invariant fails a contract. A table without rows and columns does so, too.
     void validate() const;
+    /// Reports each broken invariant instead.
+    void validate(const ContractSink& sink) const;
 
     /// Whether the stored cells are equal, empty ones left out: a stored empty cell equals no cell at all.
     bool areCellsEqual(const Table& other) const;

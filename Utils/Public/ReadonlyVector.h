@@ -51,7 +51,7 @@ public:
     /// An index past the end fails the contract "index < size()".
     reference operator[](size_type index) const
     {
-        QN_CONTRACT(index < size(), "Utils/Public/ReadonlyVector", 449, "index < size()");
+        checkIndex(index);
         return Functor{}(_items.get()[index]);
     }
 
@@ -68,10 +68,24 @@ public:
         return Functor{}(_items.get().back());
     }
 
+    /// What an owning element points to, null for a null one: for who must look before reading. An index past the end fails
+    /// as in `operator[]`.
+    auto getPointer(size_type index) const -> std::add_pointer_t<reference>
+    requires requires(const Vector& items) { items[index].get(); }
+    {
+        checkIndex(index);
+        return _items.get()[index].get();
+    }
+
     Iterator begin() const { return Iterator(_items.get().begin()); }
     Iterator end() const { return Iterator(_items.get().end()); }
 
 private:
+    void checkIndex([[maybe_unused]] size_type index) const
+    {
+        QN_CONTRACT(index < size(), "Utils/Public/ReadonlyVector", 449, "index < size()");
+    }
+
     void checkNotEmpty() const
     {
         QN_CONTRACT(!_items.get().empty(), "Utils/Public/ReadonlyVector", 547, "!_items.get().empty()");
