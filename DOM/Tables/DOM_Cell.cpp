@@ -7,10 +7,8 @@
 #include <utility>
 
 #include "DOM/DOM_FieldBlock.h"
-#include "DOM/DOM_Paragraph.h"
-#include "DOM/DOM_Run.h"
-#include "DOM/Properties/DOM_Hyperlink.h"
 #include "DOM/Tables/DOM_PivotTable.h"
+#include "DOM/Utils/DOM_BlockUtils.h"
 #include "Utils/Public/ClassScheme/Define.h"
 #include "Utils/Public/TypeList.h"
 
@@ -64,18 +62,6 @@ const T* getAlternative(const Cell::Data& data)
     const auto* const value = boost::get<const T*>(&data);
     return value != nullptr ? *value : nullptr;
 }
-
-struct FirstHyperlink {
-    std::shared_ptr<const Hyperlink> operator()(const Paragraph& paragraph) const
-    {
-        const auto runs = paragraph.getRuns();
-        return (runs.empty() ? paragraph.getParaMarkStyle() : runs.front().getStyle()).getHyperlink();
-    }
-    std::shared_ptr<const Hyperlink> operator()(const FieldBlock& block) const
-    {
-        return block.getHyperlink();
-    }
-};
 
 } // namespace
 
@@ -177,10 +163,7 @@ bool Cell::isEmpty(WithTombstones withTombstones) const
 std::shared_ptr<const Hyperlink> Cell::getHyperlink() const
 {
     const auto blocks = getRawBlocks();
-    if (blocks.empty()) {
-        return nullptr;
-    }
-    return visit<std::shared_ptr<const Hyperlink>>(blocks.front(), FirstHyperlink());
+    return blocks.empty() ? nullptr : getFirstHyperlinkFromBlocks(blocks);
 }
 
 void Cell::setPivotTable(std::unique_ptr<PivotTable> pivotTable)
