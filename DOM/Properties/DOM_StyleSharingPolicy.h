@@ -1,9 +1,11 @@
 #pragma once
 
+#include "Utils/Public/Export.h"
+
 namespace QN::DOM {
 
 /// What a factory makes of an empty style.
-enum class StyleSharingPolicy : unsigned char {
+enum class DOM_API StyleSharingPolicy : unsigned char {
     EmptyIsNull = 0,   ///< a null handle
     EmptyIsShared = 1, ///< a shared style like any other
 };
