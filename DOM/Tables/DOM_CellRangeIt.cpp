@@ -83,8 +83,9 @@ void CellRangeIt<IsConst>::setDataIteratorsForRow()
 {
     const auto boundaries = _table->getRowBoundaries(_chunkIndex, _row);
     const TableChunk& chunk = _table->_chunks[_chunkIndex];
-    _rowBegin = _table->getLBCell(chunk, boundaries, _range.getBeginColumn());
-    _rowEnd = _table->getUBCell(chunk, {_rowBegin, boundaries.end}, _range.getLastColumn());
+    _rowBegin = chunk.getPlace(_table->getLBCellIterator(chunk, boundaries, _range.getBeginColumn()));
+    _rowEnd =
+        chunk.getPlace(_table->getUBCellIterator(chunk, {_rowBegin, boundaries.end}, _range.getLastColumn()));
     _dataIndex = _rowBegin;
 }
 

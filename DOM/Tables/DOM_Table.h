@@ -360,10 +360,12 @@ private:
 
     std::size_t findChunk(RowIndex row) const;
     TableChunk::Boundaries getRowBoundaries(std::size_t chunk, RowIndex row) const;
-    std::size_t getLBCell(const TableChunk& chunk, const TableChunk::Boundaries& boundaries,
-                          ColumnIndex column) const;
-    std::size_t getUBCell(const TableChunk& chunk, const TableChunk::Boundaries& boundaries,
-                          ColumnIndex column) const;
+    TableChunk::CellIterator getLBCellIterator(const TableChunk& chunk,
+                                               const TableChunk::Boundaries& boundaries,
+                                               ColumnIndex column) const;
+    TableChunk::CellIterator getUBCellIterator(const TableChunk& chunk,
+                                               const TableChunk::Boundaries& boundaries,
+                                               ColumnIndex column) const;
 
     Place findPlace(RowIndex row, ColumnIndex column);
     void insertAt(const Place& place, std::unique_ptr<Cell> cell, ColumnID id);

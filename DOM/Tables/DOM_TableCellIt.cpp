@@ -17,7 +17,8 @@ TableCellIt<TableType>::TableCellIt(TableType& table, RowIndex row, ColumnIndex 
     : _table(&table), _row(row), _chunkIndex(table.findChunk(row))
 {
     setDataIteratorsForRow();
-    _dataIndex = table.getLBCell(table._chunks[_chunkIndex], {_rowBegin, _rowEnd}, column);
+    const TableChunk& chunk = table._chunks[_chunkIndex];
+    _dataIndex = chunk.getPlace(table.getLBCellIterator(chunk, {_rowBegin, _rowEnd}, column));
     updateForNextValidCell();
 }
 

@@ -37,17 +37,12 @@ void TableChunk::extendTo(std::size_t relativeRow)
     }
 }
 
-void TableChunk::raiseOffsetsBehind(std::size_t relativeRow, std::uint64_t delta)
+void TableChunk::shiftRows(std::size_t relativeRow, std::int64_t delta)
 {
+    const std::uint64_t raised = delta > 0 ? static_cast<std::uint64_t>(delta) : 0;
+    const std::uint64_t lowered = delta < 0 ? static_cast<std::uint64_t>(-delta) : 0;
     for (std::size_t row = relativeRow + 1; row < rowDataOffsets.size(); ++row) {
-        rowDataOffsets[row] += delta;
-    }
-}
-
-void TableChunk::lowerOffsetsBehind(std::size_t relativeRow, std::uint64_t delta)
-{
-    for (std::size_t row = relativeRow + 1; row < rowDataOffsets.size(); ++row) {
-        rowDataOffsets[row] -= std::min(rowDataOffsets[row], delta);
+        rowDataOffsets[row] += raised - std::min(rowDataOffsets[row], lowered);
     }
 }
 

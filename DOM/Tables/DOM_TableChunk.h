@@ -49,16 +49,17 @@ struct DOM_API TableChunk {
     /// Past the last offset both ends are the end of `data`.
     Boundaries getRelativeRowBoundaries(std::size_t relativeRow) const;
 
+    using CellIterator = std::vector<CellDataByCol>::const_iterator;
+    std::size_t getPlace(CellIterator cell) const { return static_cast<std::size_t>(cell - data.begin()); }
+
     /// One past the last row with an offset.
     RowIndex getEndRow() const { return startRowIndex + rowDataOffsets.size(); }
 
     /// Gives offsets to all rows up to this one.
     void extendTo(std::size_t relativeRow);
 
-    /// Moves the beginnings of all rows behind this one.
-    void raiseOffsetsBehind(std::size_t relativeRow, std::uint64_t delta);
-    /// The same, downwards; it stops at 0.
-    void lowerOffsetsBehind(std::size_t relativeRow, std::uint64_t delta);
+    /// Moves the beginnings of all rows behind this one, downwards not below 0.
+    void shiftRows(std::size_t relativeRow, std::int64_t delta);
 
     /// The first row of the second half, so that each half has about half of the cells; 0 for a chunk of one row, which
     /// cannot be split. Found by bisection.

@@ -38,26 +38,24 @@ TableChunk::Boundaries Table::getRowBoundaries(std::size_t chunk, RowIndex row) 
     return _chunks[chunk].getRelativeRowBoundaries(_chunks[chunk].getRelativeRow(row));
 }
 
-std::size_t Table::getLBCell(const TableChunk& chunk, const TableChunk::Boundaries& boundaries,
-                             ColumnIndex column) const
+TableChunk::CellIterator Table::getLBCellIterator(const TableChunk& chunk,
+                                                  const TableChunk::Boundaries& boundaries,
+                                                  ColumnIndex column) const
 {
-    const auto place =
-        std::lower_bound(iteratorAt(chunk.data, boundaries.begin), iteratorAt(chunk.data, boundaries.end),
-                         column.get(), [&](const CellDataByCol& cell, std::uint64_t value) {
-                             return _colIDContainer.getIndex(cell.colID.get()) < value;
-                         });
-    return static_cast<std::size_t>(place - chunk.data.begin());
+    return std::lower_bound(iteratorAt(chunk.data, boundaries.begin), iteratorAt(chunk.data, boundaries.end),
+                            column.get(), [&](const CellDataByCol& cell, std::uint64_t value) {
+                                return _colIDContainer.getIndex(cell.colID.get()) < value;
+                            });
 }
 
-std::size_t Table::getUBCell(const TableChunk& chunk, const TableChunk::Boundaries& boundaries,
-                             ColumnIndex column) const
+TableChunk::CellIterator Table::getUBCellIterator(const TableChunk& chunk,
+                                                  const TableChunk::Boundaries& boundaries,
+                                                  ColumnIndex column) const
 {
-    const auto place =
-        std::upper_bound(iteratorAt(chunk.data, boundaries.begin), iteratorAt(chunk.data, boundaries.end),
-                         column.get(), [&](std::uint64_t value, const CellDataByCol& cell) {
-                             return value < _colIDContainer.getIndex(cell.colID.get());
-                         });
-    return static_cast<std::size_t>(place - chunk.data.begin());
+    return std::upper_bound(iteratorAt(chunk.data, boundaries.begin), iteratorAt(chunk.data, boundaries.end),
+                            column.get(), [&](std::uint64_t value, const CellDataByCol& cell) {
+                                return value < _colIDContainer.getIndex(cell.colID.get());
+                            });
 }
 
 const Cell* Table::getCell(RowIndex row, ColumnIndex column) const
@@ -65,11 +63,12 @@ const Cell* Table::getCell(RowIndex row, ColumnIndex column) const
     const std::size_t chunkIndex = findChunk(row);
     const TableChunk& chunk = _chunks[chunkIndex];
     const TableChunk::Boundaries boundaries = getRowBoundaries(chunkIndex, row);
-    const std::size_t place = getLBCell(chunk, boundaries, column);
-    if (place == boundaries.end || _colIDContainer.getIndex(chunk.data[place].colID.get()) != column.get()) {
+    const auto place = getLBCellIterator(chunk, boundaries, column);
+    if (chunk.getPlace(place) == boundaries.end ||
+        _colIDContainer.getIndex(place->colID.get()) != column.get()) {
         return nullptr;
     }
-    return chunk.data[place].cell.get();
+    return place->cell.get();
 }
 
 Cell* Table::getCell(RowIndex row, ColumnIndex column)
@@ -102,7 +101,7 @@ Table::Place Table::findPlace(RowIndex row, ColumnIndex column)
     place.relativeRow = chunk.getRelativeRow(row);
     chunk.extendTo(place.relativeRow);
     const TableChunk::Boundaries boundaries = chunk.getRelativeRowBoundaries(place.relativeRow);
-    place.data = getLBCell(chunk, boundaries, column);
+    place.data = chunk.getPlace(getLBCellIterator(chunk, boundaries, column));
     place.isOccupied = place.data != boundaries.end && chunk.data[place.data].colID == getID(column);
     return place;
 }
@@ -126,7 +125,10 @@ void Table::splitChunk(std::size_t chunkIndex)
     if (median == 0) {
         return;
     }
-    _chunks.reserve(_chunks.size() + 1);
+    // Nothing may throw once the cells have left their chunk.
+    if (_chunks.size() == _chunks.capacity()) {
+        _chunks.reserve(2 * _chunks.size());
+    }
     _chunks.insert(iteratorAt(_chunks, chunkIndex + 1), _chunks[chunkIndex].split(median));
 }
 
@@ -145,7 +147,7 @@ Cell& Table::getOrCreateCell(RowIndex row, ColumnIndex column)
     auto created = std::make_unique<Cell>();
     Cell& cell = *created;
     insertAt(place, std::move(created), getID(column));
-    _chunks[place.chunk].raiseOffsetsBehind(place.relativeRow, 1);
+    _chunks[place.chunk].shiftRows(place.relativeRow, 1);
     splitChunkIfNeeded(place.chunk);
     return cell;
 }
@@ -174,7 +176,7 @@ void Table::setCell(RowIndex row, ColumnIndex column, std::unique_ptr<Cell> cell
         insertAt(place, std::move(cell), getID(column));
     }
     // Also where a cell was replaced: fixed behaviour, see the declaration.
-    _chunks[place.chunk].raiseOffsetsBehind(place.relativeRow, 1);
+    _chunks[place.chunk].shiftRows(place.relativeRow, 1);
     splitChunkIfNeeded(place.chunk);
 }
 
@@ -191,14 +193,14 @@ void Table::removeCell(RowIndex row, ColumnIndex column)
     TableChunk& chunk = _chunks[chunkIndex];
     const std::size_t relativeRow = chunk.getRelativeRow(row);
     const TableChunk::Boundaries boundaries = chunk.getRelativeRowBoundaries(relativeRow);
-    const std::size_t place = getLBCell(chunk, boundaries, column);
-    if (place == boundaries.end || chunk.data[place].colID != getID(column)) {
+    const auto place = getLBCellIterator(chunk, boundaries, column);
+    if (chunk.getPlace(place) == boundaries.end || place->colID != getID(column)) {
         return;
     }
     _mergedCellsCache.unmergeCells(row, column);
     _pivotTablesCache.removePivot(row, column);
-    chunk.data.erase(iteratorAt(chunk.data, place));
-    chunk.lowerOffsetsBehind(relativeRow, 1);
+    chunk.data.erase(place);
+    chunk.shiftRows(relativeRow, -1);
 }
 
 void Table::setMergeProps(RowIndex row, ColumnIndex column, std::uint64_t capturedRows,

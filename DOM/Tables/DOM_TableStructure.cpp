@@ -98,7 +98,7 @@ void Table::insertRowCells(RowData& rowData, RowIndex position, TableChunk& chun
     }
     chunk.data.insert(iteratorAt(chunk.data, chunk.getRelativeRowBoundaries(relativeRow).begin),
                       std::make_move_iterator(cells.begin()), std::make_move_iterator(cells.end()));
-    chunk.raiseOffsetsBehind(relativeRow, cells.size());
+    chunk.shiftRows(relativeRow, static_cast<std::int64_t>(cells.size()));
 }
 
 void Table::insertRow(RowData rowData, IndexIncludingTombstones position)
@@ -147,7 +147,7 @@ void Table::removeRowCells(std::size_t chunkIndex, std::size_t relativeRow, RowD
                                    std::move(cell->cell));
     }
     chunk.data.erase(begin, end);
-    chunk.lowerOffsetsBehind(relativeRow, removed.cells.size());
+    chunk.shiftRows(relativeRow, -static_cast<std::int64_t>(removed.cells.size()));
     chunk.rowDataOffsets.erase(iteratorAt(chunk.rowDataOffsets, relativeRow));
     for (std::size_t later = chunkIndex + 1; later < _chunks.size(); ++later) {
         --_chunks[later].startRowIndex;
@@ -250,7 +250,7 @@ void Table::removeColumnCells(TableChunk& chunk, ColumnIndex index, ColumnData& 
         if (boundaries.begin == boundaries.end) {
             continue;
         }
-        const std::size_t place = getLBCell(chunk, boundaries, index);
+        const std::size_t place = chunk.getPlace(getLBCellIterator(chunk, boundaries, index));
         const bool isFurther = places.empty() || place > places.back();
         if (place != boundaries.end && chunk.data[place].colID == removed.id && isFurther) {
             places.push_back(place);

@@ -77,11 +77,11 @@ TEST(DOM_TableChunk, GivesOffsetsToAllRowsUpToOne)
 TEST(DOM_TableChunk, MovesTheRowsBehindOne)
 {
     TableChunk chunk = makeChunk(3, {0, 1, 2, 3});
-    chunk.raiseOffsetsBehind(1, 4);
+    chunk.shiftRows(1, 4);
     EXPECT_EQ(chunk.rowDataOffsets, (Offsets{0, 1, 6, 7}));
-    chunk.lowerOffsetsBehind(0, 5);
+    chunk.shiftRows(0, -5);
     EXPECT_EQ(chunk.rowDataOffsets, (Offsets{0, 0, 1, 2}));
-    chunk.lowerOffsetsBehind(3, 5);
+    chunk.shiftRows(3, -5);
     EXPECT_EQ(chunk.rowDataOffsets, (Offsets{0, 0, 1, 2}));
 }
 
