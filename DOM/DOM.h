@@ -290,4 +290,7 @@
 #include "DOM/Utils/DOM_RowColumnStyleUtils.h"
 #include "DOM/Utils/DOM_TableNameUtils.h"
 #include "DOM/Utils/DOM_TextUtils.h"
+#include "DOM/Validator/DOM_BusinessLogicChecks.h"
+#include "DOM/Validator/DOM_Finding.h"
+#include "DOM/Validator/DOM_Validator.h"
 #include "Utils/Public/Archive/JSONArchives.h"

@@ -18,7 +18,6 @@ const std::set<std::string>& getSourceOnlyHeaders()
     static const std::set<std::string> Headers{
         "DOM/PredefinedStyles/DOM_FailNotImplemented.h",
         "DOM/Properties/DOM_PropertiesResolveUtils.h",
-        "DOM/Shapes/DOM_DefineTemplates.h",
     };
     return Headers;
 }
