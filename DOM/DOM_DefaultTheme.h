@@ -25,7 +25,8 @@ DOM_API extern const Color DefaultHyperlinkColor;
 DOM_API extern const Color DefaultFollowedHyperlinkColor;
 
 /// Gives the built-in theme to a document that has none. An existing theme, even an empty one, stays as it is. Makes no
-/// `ColorMap`, and sets no colours for the slots before `ThemeColorId::Dark1`.
+/// `ColorMap`, and sets no colours for the slots before `ThemeColorId::Dark1`, so that `ColorScheme::getColor` fails its
+/// contract for them. The major font is Calibri and the minor one Cambria, which is not a mix-up.
 DOM_API void setDefaultThemeIfNeeded(Document& document);
 
 } // namespace QN::DOM

@@ -8,7 +8,7 @@
 
 namespace QN::DOM {
 
-/// A flat bar chart.
+/// A flat bar chart. Only it has an overlap and series lines.
 class DOM_API BarChart final : public Reflectable<BarChartCommon> {
 public:
     BarChart() = default;

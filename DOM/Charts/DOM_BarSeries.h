@@ -11,7 +11,7 @@ public:
     BarSeries() = default;
     QN_DEEP_COPY(BarSeries)
 
-    /// Whether bars of negative values are painted inversely.
+    /// Whether bars of negative values are painted inversely. Once set, also to false, it cannot be unset.
     BoolOpt getInvertIfNegative() const { return _invertIfNegative; }
     void setInvertIfNegative(bool invertIfNegative) { _invertIfNegative = invertIfNegative; }
 

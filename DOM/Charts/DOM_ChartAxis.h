@@ -102,6 +102,7 @@ public:
         _graphicProps = std::move(graphicProps);
     }
 
+    /// True from the start.
     bool isVisible() const { return _visible; }
     void setVisible(bool visible) { _visible = visible; }
 

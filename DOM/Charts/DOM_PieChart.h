@@ -12,7 +12,7 @@ public:
     PieChart() = default;
     QN_DEEP_COPY(PieChart)
 
-    /// Where the first slice begins.
+    /// Where the first slice begins. In a file it stands under "_firstSliceAng".
     boost::optional<double> getFirstSliceAngle() const { return _firstSliceAng; }
     void setFirstSliceAngle(boost::optional<double> angle) { _firstSliceAng = angle; }
 

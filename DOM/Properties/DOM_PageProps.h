@@ -22,6 +22,7 @@ public:
     /// No scaling said, a scale factor, or a number of pages to fit.
     using FitSettings = boost::variant<boost::blank, float, FitToPages>;
 
+    /// In a file they stand under "_insets".
     const std::shared_ptr<const Insets>& getMargins() const { return _insets; }
     void setMargins(std::shared_ptr<const Insets> margins) { _insets = std::move(margins); }
 

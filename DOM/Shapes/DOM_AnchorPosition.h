@@ -8,6 +8,8 @@
 
 namespace QN::DOM {
 
+// Of the enumerations below, any other number passes through unchanged.
+
 enum class AnchorHorizontalAlignment : unsigned char {
     Left = 0,
     Right = 1,

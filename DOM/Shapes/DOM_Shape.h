@@ -14,7 +14,7 @@
 
 namespace QN::DOM {
 
-/// What a shape is used as.
+/// What a shape is used as. Any other number passes through unchanged.
 enum class ShapeType : unsigned char { Shape = 0, TextBox = 1, Connector = 2 };
 
 /// A drawn outline with text inside. Where it stands and how it is painted comes from its style. Copies are deep but
@@ -41,6 +41,7 @@ public:
     const Geometry* getGeometry() const { return _geometry.get(); }
     void setGeometry(std::unique_ptr<Geometry> geometry) { _geometry = std::move(geometry); }
 
+    /// Absent until it is set; it cannot be unset.
     boost::optional<ShapeType> getShapeType() const { return _shapeType; }
     void setShapeType(ShapeType type) { _shapeType = type; }
 

@@ -18,7 +18,8 @@
 
 namespace QN::DOM {
 
-/// Where the text of a shape stands in the area that the shape has for it.
+/// Where the text of a shape stands in the area that the shape has for it. Any other number passes through unchanged, here
+/// and below.
 enum class ShapeAreaHorizontalAlignment : unsigned char { Left = 0, Center = 1, Right = 2, Justify = 3 };
 
 enum class ShapeAreaVerticalAlignment : unsigned char { Top = 0, Middle = 1, Bottom = 2, Justify = 3 };
@@ -27,7 +28,8 @@ enum class ShapeAreaVerticalAlignment : unsigned char { Top = 0, Middle = 1, Bot
 /// immutable and shared.
 class DOM_API ShapeProps {
 public:
-    /// Blank says nothing of the placement.
+    /// Blank says nothing of the placement. It comes first, so that an anchor stands in a file under a number one higher
+    /// than in a `Frame`.
     using Anchor = boost::variant<boost::blank, TextAnchor, AbsoluteAnchor, OneCellAnchor, TwoCellAnchor>;
 
     ShapeProps() = default;

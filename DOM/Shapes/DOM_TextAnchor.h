@@ -13,7 +13,8 @@
 
 namespace QN::DOM {
 
-/// How text runs around an object, or that the object stands in the line as a character does.
+/// How text runs around an object, or that the object stands in the line as a character does. Any other number passes
+/// through unchanged.
 enum class AnchorWrapType : unsigned char {
     Inline = 0,
     Square = 1,
@@ -23,10 +24,11 @@ enum class AnchorWrapType : unsigned char {
     None = 5,
 };
 
-/// Places an object among text.
+/// Places an object among text. Distance and polygon are changed in place. A type, and the two flags at the end, cannot be
+/// unset once they are set.
 class DOM_API TextAnchor {
 public:
-    /// On which sides of the object text runs.
+    /// On which sides of the object text runs. Any other number passes through unchanged.
     enum class WrapAround : unsigned char { BothSides = 0, Left = 1, Right = 2, Largest = 3 };
 
     TextAnchor() = default;

@@ -8,7 +8,8 @@
 
 namespace QN::DOM {
 
-/// How a chart is turned and seen in space.
+/// How a chart is turned and seen in space. In a file, angles, scale and translation stand under other names than those of
+/// their accessors: "_rotateXangle", "_scale", "_translate".
 class DOM_API Transform3DProps {
 public:
     boost::optional<int> getRotationX() const { return _rotateXangle; }

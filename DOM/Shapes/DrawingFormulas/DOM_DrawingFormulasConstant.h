@@ -26,7 +26,7 @@ enum class ConstantType : unsigned char {
     LogHeight = 15,
 };
 
-/// A built-in constant.
+/// A built-in constant. Compares by its type, so that one without a number of its own is equal to itself.
 class DOM_API Constant final : public Reflectable<Expression> {
 public:
     Constant() = default;

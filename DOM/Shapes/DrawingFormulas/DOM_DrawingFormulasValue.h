@@ -4,7 +4,7 @@
 
 namespace QN::DOM::DrawingFormulas {
 
-/// A literal number.
+/// A literal number. One of NaN is unequal to itself.
 class DOM_API Value final : public Reflectable<Expression> {
 public:
     Value() = default;
