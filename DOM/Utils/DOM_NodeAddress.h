@@ -1,8 +1,7 @@
 #pragma once
 
-#include <iosfwd>
-
 #include "DOM/Utils/DOM_NativeDOMNodeType.h"
+#include "Utils/Public/Export.h"
 #include "Utils/Public/NodeAddressing/NodeAddress.h"
 
 namespace QN::DOM {
@@ -11,9 +10,6 @@ struct NativeNodeAddressTag {};
 
 /// The address of a node in a `Document`.
 using NodeAddress = NodeAddressing::NodeAddress<NativeNodeAddressTag, NativeDOMNodeType>;
-
-/// Writes `toString()`.
-DOM_API std::ostream& operator<<(std::ostream& stream, const NodeAddress& address);
 
 } // namespace QN::DOM
 

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cstddef>
+#include <iosfwd>
 #include <iterator>
 #include <string>
 #include <type_traits>
@@ -30,14 +31,13 @@ class NodeAddress {
 public:
     using FixedAddress = FixedNodeAddress<NodeType>;
     using Item = boost::variant<AddressInList, AddressInTable, AddressInMap, FixedAddress>;
-    using const_iterator = typename std::vector<Item>::const_iterator;
 
     NodeAddress() = default;
 
     std::size_t size() const { return _items.size(); }
     bool empty() const { return _items.empty(); }
-    const_iterator begin() const { return _items.begin(); }
-    const_iterator end() const { return _items.end(); }
+    auto begin() const { return _items.begin(); }
+    auto end() const { return _items.end(); }
 
     /// Adds the items at the end: each is one of the kinds of step, a `NodeType` or an `Item`. In amortised constant time for
     /// each; changes nothing when memory runs out.
@@ -104,6 +104,11 @@ public:
             boost::apply_visitor([&](const auto& step) { appendStep(text, step); }, item);
         }
         return text;
+    }
+
+    friend std::ostream& operator<<(std::ostream& stream, const NodeAddress& address)
+    {
+        return stream << address.toString();
     }
 
 private:
