@@ -18,6 +18,10 @@ const std::set<std::string>& getSourceOnlyHeaders()
     static const std::set<std::string> Headers{
         "DOM/PredefinedStyles/DOM_FailNotImplemented.h",
         "DOM/Properties/DOM_PropertiesResolveUtils.h",
+        "DOM/Validator/DOM_RangeSweep.h",
+        "DOM/Validator/DOM_ValidatorRules.h",
+        "DOM/Validator/DOM_ValidatorTableLevel.h",
+        "DOM/Validator/DOM_ValidatorWalk.h",
     };
     return Headers;
 }
