@@ -21,6 +21,33 @@ Table::Table(std::uint64_t maxChunkSize) : Table()
 Table::~Table() = default;
 
 QN_DEFINE_DEEP_COPY_WITH_BASE(Table, Reflectable<Block, UUIDable>)
+
+// A table always has a chunk and its identifiers, so that one that was moved from can be used as any other. The few
+// small allocations for that are the reason why a failure of them ends the process here.
+
+Table::Table(Table&& other) noexcept
+    : Reflectable<Block, UUIDable>(static_cast<Reflectable<Block, UUIDable>&&>(other)), _chunks(1),
+      _rowIDContainer(MaxRows), _colIDContainer(MaxColumns)
+{
+    swapMembers(other);
+}
+
+Table& Table::operator=(Table&& other) noexcept
+{
+    Table moved(std::move(other));
+    static_cast<Reflectable<Block, UUIDable>&>(*this) = moved;
+    swapMembers(moved);
+    return *this;
+}
+
+void Table::swapMembers(Table& other) noexcept
+{
+    forEachMember<Table>([&](auto member) {
+        using std::swap;
+        swap(this->*member.pointer, other.*member.pointer);
+    });
+}
+
 QN_DEFINE_CONCRETE(Table, Block)
 
 boost::optional<RowIndex> Table::getIndex(RowID id) const

@@ -52,6 +52,10 @@ namespace QN::DOM {
 ///
 /// Any insertion, removal or creation of a cell invalidates the iterators; cells themselves stay where they are in
 /// memory until they are removed or replaced.
+///
+/// An axis has as many positions as a table can have, and an identifier for each while nothing is removed. The positions
+/// that removals free at its end have numbers for identifiers that never resolve: a cell that is created there is stored
+/// and walked over, but `getCell` does not find it.
 class DOM_API Table final : public Reflectable<Block, UUIDable> {
 public:
     using IndexIncludingTombstones = CollaborationUtils::IndexIncludingTombstones;
@@ -78,13 +82,22 @@ public:
         using BaseRuntimeError::BaseRuntimeError;
     };
 
+    /// Without rows and columns, which `validate` does not accept.
     Table();
+    /// The counts are taken as they are: a table that is larger than one can be cannot be loaded again.
     Table(RowIndex rows, ColumnIndex columns);
-    /// The most cells a chunk may hold before it is split.
+    /// The most cells a chunk may hold before it is split. A row is never divided.
     explicit Table(std::uint64_t maxChunkSize);
+    Table(const Table& other);
+    Table& operator=(const Table& other);
+    /// `other` is left as a new table, but for its identity.
+    Table(Table&& other) noexcept;
+    Table& operator=(Table&& other) noexcept;
     ~Table() override;
-    QN_DEEP_COPY(Table)
     QN_CONCRETE(Block)
+
+    /// The token of the block, beside the identifiers of rows and columns.
+    using IDHolder::getID;
 
     // Cells.
 
@@ -103,7 +116,7 @@ public:
     Cell& getOrCreateCell(RowIndex row, ColumnIndex column);
 
     /// Stores a cell at a place where none is stored yet, with its merged range and its pivot table's area. The same
-    /// contracts as `getOrCreateCell`.
+    /// contracts as `getOrCreateCell`. A null cell is stored as well, and reads as none.
     ///
     /// WARNING: at a place that holds a cell, this replaces the cell and yet moves the offsets of all later rows of the
     /// chunk, as if a cell had been added: after `setCell` at (0,0), (1,0) and (0,0) again, `getCell(1,0)` is null. This
@@ -113,12 +126,14 @@ public:
     void setCell(RowIndex row, ColumnIndex column, std::unique_ptr<Cell> cell,
                  const CellMergeProps& mergeProps);
 
-    /// Drops the cell with its merged range and its pivot table's area. The extent of the table stays.
+    /// Drops the cell, if there is one, with its merged range and its pivot table's area. The extent of the table stays.
     void removeCell(RowIndex row, ColumnIndex column);
 
     // Merged cells.
 
-    /// Merges the cell with so many rows and columns beyond its own, or undoes that where both counts are 0.
+    /// Merges the cell with so many rows and columns beyond its own, or undoes that where both counts are 0. A position
+    /// outside the limits of a table fails a contract in both cases. A range may reach past the limits, which
+    /// `validate` then refuses; other ranges that it covers or cuts stay.
     void setMergeProps(RowIndex row, ColumnIndex column, std::uint64_t capturedRows,
                        std::uint64_t capturedColumns);
     /// Nothing for the root of a merged range and for a cell outside all of them.
@@ -144,6 +159,10 @@ public:
     // inserting and restoring throw `BadRowColIDException` and change nothing; a predefined identifier that is live is
     // not detected. An insertion into a full axis goes past its limit, and a table saved so cannot be loaded: who fills a
     // table to its limits checks first.
+    //
+    // Merged ranges and pivot tables come and go with their root cells and move as a whole: what happens inside one
+    // neither widens nor narrows it. The area of a pivot table whose root's row or column is removed stays, and when the
+    // row or column comes back, it moves one on and stands beside the area that came with the root.
 
     /// A position behind the live rows fails the contract "position.get() <= _rowsCount".
     void insertRow(RowData rowData, RowIndex position);
@@ -342,6 +361,7 @@ public:
     /// such, and how the cells are spread over chunks.
     bool operator==(const Table& other) const;
 
+    /// A load that fails leaves the table as it was.
     QN_SERIALIZE(Table)
 
 private:
@@ -357,6 +377,8 @@ private:
         std::size_t data = 0;
         bool isOccupied = false;
     };
+
+    void swapMembers(Table& other) noexcept;
 
     std::size_t findChunk(RowIndex row) const;
     TableChunk::Boundaries getRowBoundaries(std::size_t chunk, RowIndex row) const;

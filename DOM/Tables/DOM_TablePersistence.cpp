@@ -42,14 +42,17 @@ void Table::serialize(cereal::JSONOutputArchive& archive) const
 
 void Table::serialize(cereal::JSONInputArchive& archive)
 {
-    loadMembers(archive, *this);
-    checkChunks(_chunks);
-    if (_rowsCount > MaxRows) {
+    // Not on the stack: tables stand in cells of tables as deep as a file may nest.
+    const auto loaded = std::make_unique<Table>();
+    loadMembers(archive, *loaded);
+    checkChunks(loaded->_chunks);
+    if (loaded->_rowsCount > MaxRows) {
         throwBadTable("it has more rows than a table can have");
     }
-    if (_colsCount > MaxColumns) {
+    if (loaded->_colsCount > MaxColumns) {
         throwBadTable("it has more columns than a table can have");
     }
+    *this = std::move(*loaded);
 }
 
 } // namespace QN::DOM
