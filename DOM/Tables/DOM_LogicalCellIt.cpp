@@ -43,7 +43,7 @@ LogicalCellIt<Inner>::LogicalCellIt(Inner inner, RowIndex row, ColumnIndex colum
     : _row(row), _column(column), _inner(std::move(inner))
 {
     cacheInnerColumn();
-    if (getArea(_inner).width == 0) {
+    if (getArea(_inner).width == 0 || isAtEnd()) {
         setToEnd();
     }
 }

@@ -23,7 +23,8 @@ public:
 
     /// At the first position of the area, or behind the last one. `inner` is an iterator over the area.
     explicit LogicalCellIt(Inner inner, bool atEnd = false);
-    /// At a position of the area.
+    /// At a position of the area, with `inner` at the first stored cell at or behind it; at the end for a row behind the
+    /// area. A column behind it counts on into the next rows with the first step.
     LogicalCellIt(Inner inner, RowIndex row, ColumnIndex column);
 
     /// The stored cell, or null where none is stored and at the end.

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "DOM/Tables/DOM_RowColumnID.h"
+#include "DOM/Tables/DOM_TableRangeMoves.h"
 #include "Utils/Public/ClassScheme/Define.h"
 
 namespace QN::DOM {
@@ -73,7 +74,7 @@ void MergedCellsCache::insertRow(RowIndex row)
 {
     for (TableRange& range : _mergedRanges) {
         if (range.getBeginRow() >= row) {
-            range.addOffset(1, 0);
+            moveDown(range);
         }
     }
 }
@@ -82,7 +83,7 @@ void MergedCellsCache::insertColumn(ColumnIndex column)
 {
     for (TableRange& range : _mergedRanges) {
         if (range.getBeginColumn() >= column) {
-            range.addOffset(0, 1);
+            moveRight(range);
         }
     }
 }
@@ -92,7 +93,7 @@ void MergedCellsCache::removeRow(RowIndex row)
     std::erase_if(_mergedRanges, [&](const TableRange& range) { return range.getBeginRow() == row; });
     for (TableRange& range : _mergedRanges) {
         if (range.getBeginRow() > row) {
-            range.addOffset(-1, 0);
+            moveUp(range);
         }
     }
 }
@@ -102,7 +103,7 @@ void MergedCellsCache::removeColumn(ColumnIndex column)
     std::erase_if(_mergedRanges, [&](const TableRange& range) { return range.getBeginColumn() == column; });
     for (TableRange& range : _mergedRanges) {
         if (range.getBeginColumn() > column) {
-            range.addOffset(0, -1);
+            moveLeft(range);
         }
     }
 }

@@ -29,8 +29,8 @@ public:
     boost::optional<CellIndex> getMergedCellRoot(RowIndex row, ColumnIndex column) const;
 
     // A range moves as a whole with its root, and its size stays: an insertion or removal strictly inside neither widens
-    // nor narrows it. When the row or column of the root goes, so does the range. A range that would move past 2^63
-    // throws BadNumCastError.
+    // nor narrows it. When the row or column of the root goes, so does the range. A range that ends at the largest
+    // index of 64 bits does not move on.
 
     void insertRow(RowIndex row);
     void insertColumn(ColumnIndex column);

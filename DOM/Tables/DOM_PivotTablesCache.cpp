@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "DOM/Tables/DOM_TableRangeMoves.h"
 #include "Utils/Public/ClassScheme/Define.h"
 
 namespace QN::DOM {
@@ -80,7 +81,7 @@ void PivotTablesCache::insertRow(RowIndex row)
 {
     for (TableRange& range : _pivotRanges) {
         if (range.getBeginRow() >= row) {
-            range.addOffset(1, 0);
+            moveDown(range);
         }
     }
 }
@@ -89,7 +90,7 @@ void PivotTablesCache::insertColumn(ColumnIndex column)
 {
     for (TableRange& range : _pivotRanges) {
         if (range.getBeginColumn() >= column) {
-            range.addOffset(0, 1);
+            moveRight(range);
         }
     }
 }
@@ -98,7 +99,7 @@ void PivotTablesCache::removeRow(RowIndex row)
 {
     for (TableRange& range : _pivotRanges) {
         if (range.getBeginRow() > row) {
-            range.addOffset(-1, 0);
+            moveUp(range);
         }
     }
 }
@@ -107,7 +108,7 @@ void PivotTablesCache::removeColumn(ColumnIndex column)
 {
     for (TableRange& range : _pivotRanges) {
         if (range.getBeginColumn() > column) {
-            range.addOffset(0, -1);
+            moveLeft(range);
         }
     }
 }

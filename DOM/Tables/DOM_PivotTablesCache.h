@@ -35,7 +35,7 @@ public:
     bool canInsertColumn(ColumnIndex column) const;
 
     // An area moves as a whole with its root. One that is rooted exactly on a removed row or column stays where it is.
-    // An area that would move past 2^63 throws BadNumCastError.
+    // An area that ends at the largest index of 64 bits does not move on.
 
     void insertRow(RowIndex row);
     void insertColumn(ColumnIndex column);

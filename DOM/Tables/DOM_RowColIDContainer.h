@@ -48,9 +48,9 @@ public:
     /// Forgets all changes: every position has its predefined identifier again.
     void reset();
 
-    /// Logarithmic in the number of runs and inserted items. An index past the axis gives a number that belongs to no
-    /// row; one before the first run, where no inserted item stands, fails the contract
-    /// "rangeIt != _predefinedIDs.begin()".
+    /// Logarithmic in the number of runs and inserted items. An index behind the last identifier, also one that removals
+    /// have freed at the end of the axis, gives a number that is nobody's identifier and that `getIndex` does not find; one
+    /// before the first run, where no inserted item stands, fails the contract "rangeIt != _predefinedIDs.begin()".
     std::uint64_t getID(std::uint64_t index) const;
 
     /// The index of an identifier, or `getPredefinedIDsCount()` when it is not live. Logarithmic in the number of runs

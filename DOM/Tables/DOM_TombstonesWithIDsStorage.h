@@ -17,7 +17,7 @@ public:
     using IndexExcludingTombstones = CollaborationUtils::IndexExcludingTombstones;
 
     /// Each change answers the live index as the same call on `TombstonesStorage` does, and keeps its contracts. Linear in
-    /// the number of remembered identifiers.
+    /// the number of remembered identifiers. An identifier is remembered for one position, the last it was given.
     IndexExcludingTombstones insertElement(IndexIncludingTombstones index);
     IndexExcludingTombstones removeElement(IndexIncludingTombstones index);
     IndexExcludingTombstones replaceWithTombstone(IndexIncludingTombstones index, std::uint64_t id);

@@ -13,6 +13,7 @@ public:
 
     const GroupingProps& getGroupingProps() const { return _groupingProps; }
     GroupingProps& getGroupingProps() { return _groupingProps; }
+    void setGroupingProps(const GroupingProps& props) { _groupingProps = props; }
 
     QN_ORDERED_VALUE(TableSettings)
 
