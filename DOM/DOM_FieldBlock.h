@@ -12,11 +12,12 @@
 #include "DOM/Tables/DOM_ArrayFormulaShift.h"
 #include "DOM/Tables/DOM_BlockValue.h"
 #include "DOM/Tables/DOM_Formula.h"
+#include "DOM/Tables/DOM_RareValue.h"
 
 namespace QN::DOM {
 
 /// A computed or typed value in the place of text: what a cell of a sheet holds, or a table of contents. A cell with a
-/// value has exactly one.
+/// value has exactly one. A sheet has a million of them: what a plain number does not need stands apart.
 class DOM_API FieldBlock final : public Reflectable<Block> {
 public:
     using FieldInfo = boost::variant<Formula, ArrayFormulaShift, BlockValue<FloatNumber>,
@@ -36,8 +37,8 @@ public:
     const std::shared_ptr<const Hyperlink>& getHyperlink() const { return _hyperlink; }
     void setHyperlink(std::shared_ptr<const Hyperlink> hyperlink) { _hyperlink = std::move(hyperlink); }
 
-    const std::vector<UUID>& getCommentUUIDs() const { return _commentUUIDs; }
-    std::vector<UUID>& getCommentUUIDs() { return _commentUUIDs; }
+    const std::vector<UUID>& getCommentUUIDs() const { return _commentUUIDs.get(); }
+    std::vector<UUID>& getCommentUUIDs() { return _commentUUIDs.edit(); }
 
     /// The hyperlinks compare by value.
     QN_VALUE(FieldBlock)
@@ -46,7 +47,7 @@ public:
 private:
     FieldInfo _fieldInfo;
     std::shared_ptr<const Hyperlink> _hyperlink;
-    std::vector<UUID> _commentUUIDs;
+    RareValue<std::vector<UUID>> _commentUUIDs;
 
     BOOST_DESCRIBE_CLASS(FieldBlock, (Block), (), (), (_fieldInfo, _hyperlink, _commentUUIDs))
 };

@@ -11,9 +11,10 @@ QN_DEFINE_VALUE(TableOfContentsInfo)
 
 const TableOfContentsInfo::StyleLevelInfo* TableOfContentsInfo::findStyleLevel(const UUID& uuid) const
 {
-    const auto entry = std::find_if(_headingStylesLevels.begin(), _headingStylesLevels.end(),
+    const std::vector<StyleLevelInfo>& levels = getHeadingStylesLevels();
+    const auto entry = std::find_if(levels.begin(), levels.end(),
                                     [&](const StyleLevelInfo& candidate) { return candidate.uuid == uuid; });
-    return entry == _headingStylesLevels.end() ? nullptr : &*entry;
+    return entry == levels.end() ? nullptr : &*entry;
 }
 
 TableOfContentsInfo makeDefaultTableOfContentsInfo(const Styles& styles)

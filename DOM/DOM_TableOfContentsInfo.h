@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "DOM/DOM_TableOfContentsLevelDecorationInfo.h"
+#include "DOM/Tables/DOM_RareValue.h"
 #include "Utils/Public/ClassScheme/Declare.h"
 #include "Utils/Public/UUID.h"
 
@@ -31,14 +32,17 @@ public:
     using OutlineLevelsRange = std::pair<std::uint64_t, std::uint64_t>;
     using LevelsStyleInfo = boost::container::map<std::uint64_t, TableOfContentsLevelDecorationInfo>;
 
-    const boost::optional<OutlineLevelsRange>& getOutlineLevelsRange() const { return _outlineLevelsRange; }
-    void setOutlineLevelsRange(boost::optional<OutlineLevelsRange> range) { _outlineLevelsRange = range; }
+    const boost::optional<OutlineLevelsRange>& getOutlineLevelsRange() const
+    {
+        return _outlineLevelsRange.get();
+    }
+    void setOutlineLevelsRange(boost::optional<OutlineLevelsRange> range) { _outlineLevelsRange.set(range); }
 
-    const std::vector<StyleLevelInfo>& getHeadingStylesLevels() const { return _headingStylesLevels; }
-    std::vector<StyleLevelInfo>& getHeadingStylesLevels() { return _headingStylesLevels; }
+    const std::vector<StyleLevelInfo>& getHeadingStylesLevels() const { return _headingStylesLevels.get(); }
+    std::vector<StyleLevelInfo>& getHeadingStylesLevels() { return _headingStylesLevels.edit(); }
 
-    const LevelsStyleInfo& getLevelsStyleInfo() const { return _levelsStyleInfo; }
-    LevelsStyleInfo& getLevelsStyleInfo() { return _levelsStyleInfo; }
+    const LevelsStyleInfo& getLevelsStyleInfo() const { return _levelsStyleInfo.get(); }
+    LevelsStyleInfo& getLevelsStyleInfo() { return _levelsStyleInfo.edit(); }
 
     /// The first entry of a style, null for none. A linear search; the pointer is good until the list of heading styles
     /// changes.
@@ -48,9 +52,10 @@ public:
     QN_VALUE(TableOfContentsInfo)
 
 private:
-    boost::optional<OutlineLevelsRange> _outlineLevelsRange;
-    std::vector<StyleLevelInfo> _headingStylesLevels;
-    LevelsStyleInfo _levelsStyleInfo;
+    // Small, since each field block has room for it.
+    RareValue<boost::optional<OutlineLevelsRange>> _outlineLevelsRange;
+    RareValue<std::vector<StyleLevelInfo>> _headingStylesLevels;
+    RareValue<LevelsStyleInfo> _levelsStyleInfo;
 
     BOOST_DESCRIBE_CLASS(TableOfContentsInfo, (), (), (),
                          (_outlineLevelsRange, _headingStylesLevels, _levelsStyleInfo))

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "DOM/FormulaSyntaxTree/DOM_Expr.h"
+#include "DOM/Tables/DOM_RareValue.h"
 #include "Utils/Public/ClassScheme/Declare.h"
 #include "Utils/Public/Size2D.h"
 
@@ -24,8 +25,11 @@ public:
     QN_DEEP_COPY(Formula)
 
     /// Set for an array formula: the size of its block. An empty one makes an ordinary formula.
-    const boost::optional<Size2D<std::uint64_t>>& getArrayFormulaSize() const { return _arrayFormulaSize; }
-    void setArrayFormulaSize(boost::optional<Size2D<std::uint64_t>> size) { _arrayFormulaSize = size; }
+    const boost::optional<Size2D<std::uint64_t>>& getArrayFormulaSize() const
+    {
+        return _arrayFormulaSize.get();
+    }
+    void setArrayFormulaSize(boost::optional<Size2D<std::uint64_t>> size) { _arrayFormulaSize.set(size); }
 
     /// Whether the cell is a formula even where a plain value would serve.
     bool isForceFormula() const { return _forceFormula; }
@@ -37,7 +41,7 @@ public:
     QN_VALUE(Formula)
 
 private:
-    boost::optional<Size2D<std::uint64_t>> _arrayFormulaSize;
+    RareValue<boost::optional<Size2D<std::uint64_t>>> _arrayFormulaSize;
     bool _forceFormula = false;
     FormulaSyntaxTree::ExprPtr _formulaSyntaxTree;
 

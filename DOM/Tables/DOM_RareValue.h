@@ -5,7 +5,12 @@
 
 #include "Utils/Public/ClassScheme/Declare.h"
 
-namespace QN::DOM {
+namespace QN {
+
+template <class T>
+struct Persist;
+
+namespace DOM {
 
 /// A value that nearly always equals its default: it costs one pointer then, and an allocation only where it differs.
 /// It is compared, copied and persisted as the value itself.
@@ -19,22 +24,24 @@ public:
     RareValue& operator=(RareValue&&) noexcept = default;
     ~RareValue() = default;
 
-    /// Valid until the next `set`.
+    /// Valid until the next change.
     const T& get() const { return _value ? *_value : getDefault(); }
 
-    void set(const T& value) { _value = value == getDefault() ? nullptr : std::make_unique<T>(value); }
+    /// To be changed in place: makes the allocation, whether or not the value then differs from the default. Valid until
+    /// the next `set`.
+    T& edit()
+    {
+        if (!_value) {
+            _value = std::make_unique<T>();
+        }
+        return *_value;
+    }
+
+    void set(T value) { _value = value == getDefault() ? nullptr : std::make_unique<T>(std::move(value)); }
 
     friend bool operator==(const RareValue& left, const RareValue& right)
     {
         return left.get() == right.get();
-    }
-
-    void serialize(cereal::JSONOutputArchive& archive) const { get().serialize(archive); }
-    void serialize(cereal::JSONInputArchive& archive)
-    {
-        T value;
-        value.serialize(archive);
-        set(value);
     }
 
 private:
@@ -47,4 +54,21 @@ private:
     std::unique_ptr<T> _value;
 };
 
-} // namespace QN::DOM
+} // namespace DOM
+
+template <class T>
+struct Persist<DOM::RareValue<T>> {
+    static void save(cereal::JSONOutputArchive& archive, const DOM::RareValue<T>& value)
+    {
+        Persist<T>::save(archive, value.get());
+    }
+
+    static void load(cereal::JSONInputArchive& archive, DOM::RareValue<T>& value)
+    {
+        T loaded{};
+        Persist<T>::load(archive, loaded);
+        value.set(std::move(loaded));
+    }
+};
+
+} // namespace QN

@@ -1,5 +1,7 @@
 #include "Support/AllocationCount.h"
 
+#include <malloc.h>
+
 #include <atomic>
 #include <cstdlib>
 #include <new>
@@ -7,11 +9,20 @@
 namespace {
 
 std::atomic<std::size_t> allocations = 0;
+std::atomic<std::size_t> liveBytes = 0;
 
 void* allocate(std::size_t size) noexcept
 {
     ++allocations;
-    return std::malloc(size == 0 ? 1 : size);
+    void* const memory = std::malloc(size == 0 ? 1 : size);
+    liveBytes += malloc_usable_size(memory);
+    return memory;
+}
+
+void release(void* memory) noexcept
+{
+    liveBytes -= malloc_usable_size(memory);
+    std::free(memory);
 }
 
 void* allocateOrThrow(std::size_t size)
@@ -49,32 +60,32 @@ void* operator new[](std::size_t size, const std::nothrow_t&) noexcept
 
 void operator delete(void* memory) noexcept
 {
-    std::free(memory);
+    release(memory);
 }
 
 void operator delete[](void* memory) noexcept
 {
-    std::free(memory);
+    release(memory);
 }
 
 void operator delete(void* memory, std::size_t) noexcept
 {
-    std::free(memory);
+    release(memory);
 }
 
 void operator delete[](void* memory, std::size_t) noexcept
 {
-    std::free(memory);
+    release(memory);
 }
 
 void operator delete(void* memory, const std::nothrow_t&) noexcept
 {
-    std::free(memory);
+    release(memory);
 }
 
 void operator delete[](void* memory, const std::nothrow_t&) noexcept
 {
-    std::free(memory);
+    release(memory);
 }
 
 namespace QN::Test {
@@ -82,6 +93,11 @@ namespace QN::Test {
 std::size_t getAllocationCount()
 {
     return allocations;
+}
+
+std::size_t getLiveBytes()
+{
+    return liveBytes;
 }
 
 } // namespace QN::Test

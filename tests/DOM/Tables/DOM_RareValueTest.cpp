@@ -1,6 +1,10 @@
 #include "DOM/Tables/DOM_RareValue.h"
 
+#include <boost/optional/optional.hpp>
+
 #include <gtest/gtest.h>
+
+#include <vector>
 
 #include "DOM/Tables/Properties/DOM_CellMergeProps.h"
 #include "DOM/ValueChecks.h"
@@ -41,6 +45,22 @@ TEST(DOM_RareValue, HoldsAnotherValueAndTheDefaultAgain)
     EXPECT_EQ(value, RareProps());
 }
 
+TEST(DOM_RareValue, IsChangedInPlace)
+{
+    RareProps value;
+    value.edit().setCapturedRowsCount(3);
+    value.edit().setCapturedColsCount(2);
+    EXPECT_EQ(value, makeValue(3));
+}
+
+TEST(DOM_RareValue, EqualsTheDefaultAfterAnEditThatChangesNothing)
+{
+    RareProps value;
+    value.edit();
+    EXPECT_EQ(value, RareProps());
+    EXPECT_EQ(RareProps(), value);
+}
+
 TEST(DOM_RareValue, CopiesAndComparesByValue)
 {
     EXPECT_EQ(makeValue(3), makeValue(3));
@@ -57,6 +77,18 @@ TEST(DOM_RareValue, IsWrittenAsTheValueItself)
 {
     expectText(RareProps(), R"({"_capturedRowsCount":0,"_capturedColsCount":0})");
     expectText(makeValue(3), R"({"_capturedRowsCount":3,"_capturedColsCount":2})");
+}
+
+TEST(DOM_RareValue, HoldsValuesOfAnyKind)
+{
+    RareValue<std::vector<int>> numbers;
+    expectText(numbers, "[]");
+    numbers.edit().push_back(4);
+    expectText(numbers, "[4]");
+    RareValue<boost::optional<int>> optional;
+    expectText(optional, R"({"hasValue":false})");
+    optional.set(5);
+    expectText(optional, R"({"hasValue":true,"value":5})");
 }
 
 } // namespace
