@@ -67,12 +67,6 @@ SharedStylePtr<T> SharedStyleFactory<T, Policy>::create(T style) const
 }
 
 template <class T, StyleSharingPolicy Policy>
-void SharedStyleFactory<T, Policy>::clear()
-{
-    replaceStyles({});
-}
-
-template <class T, StyleSharingPolicy Policy>
 typename SharedStyleFactory<T, Policy>::Styles SharedStyleFactory<T, Policy>::copyStyles() const
 {
     const std::lock_guard lock(_mutex);

@@ -13,7 +13,8 @@ namespace QN::DOM {
 /// least as long as its pool.
 ///
 /// Two equal styles from one pool are the same handle; handles from two pools say nothing about each other. Equality is
-/// deep and that of numbers, so that a style with a NaN behind two pointers is never found again.
+/// deep and that of numbers: a negative zero finds the style with zero, and a style with a NaN, which equals itself only
+/// through one and the same pointer, is not found again once another with a NaN in the same place has come.
 template <class T, StyleSharingPolicy Policy>
 class DOM_API SharedStyleFactory {
 public:
@@ -28,9 +29,6 @@ public:
     /// The one shared style that equals the given one. O(log n) deep comparisons; a style that is known costs no
     /// allocation. Safe from any thread, also while the pool is copied.
     SharedStylePtr<T> create(T style) const;
-
-    /// Forgets all styles. Those that handles still hold live on, but are not found again.
-    void clear();
 
 private:
     using Styles = std::vector<SharedStylePtr<T>>;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <initializer_list>
 #include <limits>
 #include <random>
 #include <set>
@@ -171,16 +172,24 @@ TEST(SharedStyleFactoryTest, AMoveTakesTheStylesOver)
     EXPECT_EQ(assigned.create(makeStyle(1.0F)), style);
 }
 
-TEST(SharedStyleFactoryTest, AClearedFactoryForgetsAndHandlesKeep)
+TEST(SharedStyleFactoryTest, AFactoryThatWasMovedFromHasNoStylesAndTakesNewOnes)
 {
-    RunStyleFactory factory;
-    const auto style = factory.create(makeStyle(1.0F));
-    factory.clear();
-    EXPECT_NE(factory.create(makeStyle(1.0F)), style);
-    EXPECT_EQ(style->get(), makeStyle(1.0F));
+    RunStyleFactory source;
+    const auto style = source.create(makeStyle(1.0F));
+    const RunStyleFactory moved(std::move(source));
+    const auto again = source.create(makeStyle(1.0F));
+    EXPECT_NE(again, style);
+    EXPECT_EQ(source.create(makeStyle(1.0F)), again);
+    EXPECT_EQ(moved.create(makeStyle(1.0F)), style);
 }
 
-TEST(SharedStyleFactoryTest, AStyleWithANaNIsNeverFoundAgainAndHarmsNoOther)
+TEST(SharedStyleFactoryTest, ANegativeZeroFindsTheStyleWithZero)
+{
+    const RunStyleFactory factory;
+    EXPECT_EQ(factory.create(makeStyle(0.0F)), factory.create(makeStyle(-0.0F)));
+}
+
+TEST(SharedStyleFactoryTest, AStyleWithANaNBehindAnotherPointerIsAnotherAndHarmsNone)
 {
     const float nan = std::numeric_limits<float>::quiet_NaN();
     const RunStyleFactory factory;
@@ -197,6 +206,42 @@ TEST(SharedStyleFactoryTest, ANaNBehindOneAndTheSamePointerIsFoundAgain)
     const auto style = makeStyle(std::numeric_limits<float>::quiet_NaN());
     const RunStyleFactory factory;
     EXPECT_EQ(factory.create(style), factory.create(style));
+}
+
+TEST(SharedStyleFactoryTest, OfTwoStylesWithANaNInOnePlaceTheLaterHidesTheEarlier)
+{
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    const RunStyle earlier = makeStyle(nan);
+    const RunStyle later = makeStyle(nan);
+    const RunStyleFactory factory;
+    const auto first = factory.create(earlier);
+    EXPECT_EQ(factory.create(earlier), first);
+    const auto second = factory.create(later);
+    EXPECT_NE(second, first);
+    EXPECT_EQ(factory.create(later), second);
+    EXPECT_NE(factory.create(earlier), first);
+}
+
+TEST(SharedStyleFactoryTest, ANaNAmongTheTabPositionsHarmsNoOtherStyle)
+{
+    const auto makeTabbed = [](std::initializer_list<float> positions) {
+        TabStops stops;
+        for (const float position : positions) {
+            stops[position];
+        }
+        return with<ParagraphStyle>([&](ParagraphStyle& style) {
+            style.setParaProps(sharedWith<ParaProps>([&](ParaProps& props) { props.setTabStops(stops); }));
+        });
+    };
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    const SharedStyleFactory<ParagraphStyle, StyleSharingPolicy::EmptyIsNull> factory;
+    const auto one = factory.create(makeTabbed({1.0F}));
+    const auto unknown = factory.create(makeTabbed({1.0F, nan}));
+    const auto two = factory.create(makeTabbed({2.0F}));
+    EXPECT_NE(factory.create(makeTabbed({nan, 1.0F})), unknown);
+    EXPECT_EQ(factory.create(unknown->get())->get(), unknown->get()) << "through the same pointer";
+    EXPECT_EQ(factory.create(makeTabbed({1.0F})), one);
+    EXPECT_EQ(factory.create(makeTabbed({2.0F})), two);
 }
 
 TEST(SharedStyleFactoryTest, AKnownStyleCostsNoAllocation)
@@ -266,6 +311,18 @@ TEST(SharedStyleFactoryTest, ARowStyleIsFoundThroughItsDefaultCellStyle)
     const auto style = factory.create(makeRow(SomeUUID));
     EXPECT_EQ(factory.create(makeRow(SomeUUID)), style);
     EXPECT_NE(factory.create(makeRow(OtherUUID)), style);
+}
+
+TEST(SharedStyleFactoryTest, ARowStyleWithAHandleToAnEmptyCellStyleIsNotThatWithoutAHandle)
+{
+    const SharedStyleFactory<RowStyle, StyleSharingPolicy::EmptyIsNull> factory;
+    const auto null = factory.create(withParent<RowStyle>(SomeUUID));
+    auto row = withParent<RowStyle>(SomeUUID);
+    row.getSharedDefaultCellStyle() = shareEmpty<CellStyle>();
+    const auto empty = factory.create(row);
+    EXPECT_NE(empty, null);
+    row.getSharedDefaultCellStyle() = shareEmpty<CellStyle>();
+    EXPECT_EQ(factory.create(row), empty);
 }
 
 } // namespace QN::DOM::SharedStyleFactoryTest
