@@ -22,7 +22,7 @@ class SharedStyleFactoryPrivateAccessTag {
     template <class T, StyleSharingPolicy Policy>
     friend class SharedStyleFactory;
 
-    SharedStyleFactoryPrivateAccessTag() {}
+    SharedStyleFactoryPrivateAccessTag() = default;
 };
 
 /// An immutable style with an atomic count of its handles. The last handle to go, in whatever thread, destroys it.

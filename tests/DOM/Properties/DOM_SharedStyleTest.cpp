@@ -27,8 +27,16 @@ TYPED_TEST_SUITE(SharedStyleTest, StyleTypes);
 static_assert(!std::is_copy_constructible_v<SharedStyle<RunStyle>>);
 static_assert(!std::is_copy_assignable_v<SharedStyle<RunStyle>>);
 static_assert(sizeof(SharedStylePtr<RunStyle>) == sizeof(void*));
-static_assert(!std::is_default_constructible_v<SharedStyleFactoryPrivateAccessTag> ||
-              !std::is_aggregate_v<SharedStyleFactoryPrivateAccessTag>);
+static_assert(std::is_empty_v<SharedStyleFactoryPrivateAccessTag>);
+static_assert(!std::is_default_constructible_v<SharedStyleFactoryPrivateAccessTag>);
+static_assert(!std::is_aggregate_v<SharedStyleFactoryPrivateAccessTag>);
+
+template <class T>
+concept HolderMakeableByAnyone = requires(T style)
+{
+    SharedStyle<T>(style, {});
+};
+static_assert(!HolderMakeableByAnyone<RunStyle>);
 
 TYPED_TEST(SharedStyleTest, ANullHandleStandsForOneEmptyStyleOfTheProcess)
 {
@@ -100,6 +108,20 @@ TEST(SharedStyleHandleTest, AnIdOfAStyleOfAnotherTypeIsRefused)
     using Pair = std::pair<SharedStylePtr<RunStyle>, SharedStylePtr<ParagraphStyle>>;
     EXPECT_EQ(loadError<Pair>(json),
               "Error while trying to deserialize a smart pointer. Could not find id 1");
+}
+
+TEST(SharedStyleHandleTest, OfTwoStylesThatAFileStatesUnderOneIdTheLaterIsMeantFromThenOn)
+{
+    const auto state = [](const UUID& parent) {
+        return R"({"id":2147483649,"value0":{"ptr_wrapper":{"valid":1,"data":{"_style":)" +
+               toJson(withParent<RunStyle>(parent)) + "}}}}";
+    };
+    const auto loaded = fromJson<std::vector<SharedStylePtr<RunStyle>>>(
+        R"({"object":[)" + state(SomeUUID) + "," + state(OtherUUID) + R"(,{"id":1}]})");
+    ASSERT_EQ(loaded.size(), 3U);
+    EXPECT_EQ(loaded[0]->get().getParentUUID(), SomeUUID);
+    EXPECT_EQ(loaded[1]->get().getParentUUID(), OtherUUID);
+    EXPECT_EQ(loaded[2], loaded[1]);
 }
 
 TEST(SharedStyleHandleTest, ALoadedStyleIsDestroyedWithItsLastHandle)
