@@ -73,6 +73,7 @@ public:
     const std::vector<NumberedList>& getNumLists() const { return _numLists; }
     std::vector<NumberedList>& getNumLists() { return _numLists; }
 
+    /// By name. The expression of a name may be null.
     const DefinedNames& getDefinedNames() const { return _definedNames; }
     DefinedNames& getDefinedNames() { return _definedNames; }
 

@@ -3,6 +3,7 @@
 #include <boost/optional/optional.hpp>
 #include <boost/variant/variant.hpp>
 
+#include <cstdint>
 #include <utility>
 
 #include "DOM/DOM_PageReferenceInfo.h"

@@ -32,7 +32,8 @@ template <class NamedStyle>
 const NamedStyle* findNamedStyle(const UUIDContainer<NamedStyle>& styles, PredefinedStyleName styleType);
 
 /// The first style whose resolved name is `name`, in the order of the container, null when there is none. Exists for
-/// `NamedTextStyle`. Linear.
+/// `NamedTextStyle`. Linear. A style on the way there with a predefined name above the last fails the contract
+/// "No named text style with such type.".
 template <class NamedStyle>
 const NamedStyle* findNamedStyle(const UUIDContainer<NamedStyle>& styles, const std::string& name);
 

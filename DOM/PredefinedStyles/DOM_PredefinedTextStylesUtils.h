@@ -29,6 +29,9 @@ DOM_API UUID getPredefinedTextStyleUUID(const Styles& styles, PredefinedStyleNam
 
 /// Adds the predefined styles that the store lacks, and makes "Normal" its default paragraph style if it has none.
 /// Headings 6 to 10 are not among them: they come from `makePredefinedTextStyle` alone.
+///
+/// A type and its `UUID` go together: a store that has one of them without the other fails a contract, that of
+/// `findNamedStyle` or that of `UUIDContainer::insert`.
 DOM_API void appendPredefinedTextStyles(Styles& styles);
 
 /// A single underline and nothing else.

@@ -10,7 +10,7 @@
 
 namespace QN::DOM {
 
-/// How an image covers the area that it fills.
+/// How an image covers the area that it fills. Any other number passes through unchanged.
 enum class BlipType : unsigned char { Stretch = 0, Tile = 1 };
 
 /// Paints an area with an image. Equality and order look at the bytes of the image, not at who holds them; no image is

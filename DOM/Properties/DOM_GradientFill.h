@@ -9,7 +9,7 @@
 
 namespace QN::DOM {
 
-/// The path that the colours follow.
+/// The path that the colours follow. Any other number passes through unchanged.
 enum class GradientType : unsigned char { Linear = 0, Circle = 1, Rectangle = 2, Shape = 3 };
 
 /// Paints an area in colours that blend into each other. The stops keep the order in which they were added, whatever

@@ -7,7 +7,7 @@
 
 namespace QN::DOM {
 
-/// The shape at the end of a line.
+/// The shape at the end of a line. Any other number passes through unchanged.
 enum class EndingStyle : unsigned char {
     None = 0,
     Triangle = 1,

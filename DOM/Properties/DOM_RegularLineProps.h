@@ -13,7 +13,8 @@ namespace QN::DOM {
 
 class LineEndingProps;
 
-/// How a line is broken up along its length. `None` is a line that is not drawn.
+/// How a line is broken up along its length. `None` is a line that is not drawn. Any other number passes through
+/// unchanged.
 enum class DashStyle : unsigned char {
     None = 0,
     Solid = 1,

@@ -3,7 +3,7 @@
 namespace QN::DOM {
 
 /// A slot of a theme's colour scheme. The default scheme fills the slots from `Dark1` on; a `ColorMap` says which of
-/// them the first four stand for.
+/// them the first four stand for. Any other number passes through unchanged.
 enum class ThemeColorId : unsigned char {
     Text1 = 0,
     Text2 = 1,

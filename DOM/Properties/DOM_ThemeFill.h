@@ -10,7 +10,7 @@
 
 namespace QN::DOM {
 
-/// Which list of a theme's `FormatScheme` a reference means.
+/// Which list of a theme's `FormatScheme` a reference means. Any other number passes through unchanged.
 enum class FillThemeType : unsigned char { Fill = 0, BackgroundFill = 1 };
 
 /// Paints an area with a fill of the theme's `FormatScheme`.

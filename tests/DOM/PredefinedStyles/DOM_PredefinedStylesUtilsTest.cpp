@@ -101,6 +101,18 @@ TEST(FindNamedStyleDeathTest, AStyleOfATypeMustHaveTheUUIDOfTheType)
                  "style->getUUID\\(\\) == makeUUIDFunctor\\(styleType\\)");
 }
 
+TEST(FindNamedStyleDeathTest, AStyleOfAnUnknownTypeOnTheWayToANameIsAContractFailure)
+{
+    UUIDContainer<NamedTextStyle> styles;
+    styles.insert(makeNamed<NamedTextStyle>(static_cast<PredefinedStyleName>(26), OtherUUID));
+    EXPECT_DEATH(findNamedStyle(styles, std::string("Quote")),
+                 "DOM/PredefinedStyles/DOM_PredefinedTextStylesUtils:360: "
+                 "No named text style with such type\\.");
+    styles.insert(makeNamed<NamedTextStyle>(std::string("Quote"), SomeUUID));
+    EXPECT_EQ(findNamedStyle(styles, std::string("Quote")), styles.find(SomeUUID));
+    EXPECT_EQ(findNamedStyle(styles, PredefinedStyleName::Normal), nullptr);
+}
+
 TEST(FindNamedStyleDeathTest, ThereIsNoTypeAboveTheLast)
 {
     EXPECT_DEATH(findNamedStyle(UUIDContainer<NamedTextStyle>(), static_cast<PredefinedStyleName>(26)),

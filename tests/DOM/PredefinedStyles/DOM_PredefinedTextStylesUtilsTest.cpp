@@ -281,4 +281,22 @@ TEST(PredefinedTextStylesUtilsDeathTest, AStyleOfATypeWithAnotherUUIDIsAContract
     EXPECT_FALSE(getPredefinedTextStyleUUID(styles, PredefinedStyleName::Heading2));
 }
 
+TEST(PredefinedTextStylesUtilsDeathTest, AnotherStyleWithTheUUIDOfATypeIsAContractFailure)
+{
+    Styles styles;
+    NamedTextStyle custom(makePredefinedTextStyleUUID(PredefinedStyleName::Normal));
+    custom.setName(std::string("Quote"));
+    styles.getTextStyles().insert(custom);
+    EXPECT_DEATH(appendPredefinedTextStyles(styles),
+                 "DOM_UUIDContainer:67: _collection.find\\(uuid\\) == _collection.end\\(\\)");
+}
+
+TEST(PredefinedTextStylesUtilsTest, FootnotesAndHyperlinksDifferInTheLastDigitOfTheirUUID)
+{
+    const std::string footnote = makePredefinedTextStyleUUID(PredefinedStyleName::Footnote).toString();
+    const std::string hyperlink = makePredefinedTextStyleUUID(PredefinedStyleName::Hyperlink).toString();
+    EXPECT_EQ(footnote.substr(0, 35), hyperlink.substr(0, 35));
+    EXPECT_NE(footnote, hyperlink);
+}
+
 } // namespace QN::DOM::PredefinedTextStylesUtilsTest
