@@ -2,8 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <functional>
 #include <limits>
+#include <memory>
+#include <new>
+#include <type_traits>
+#include <utility>
 
 #include "DOM/DOM_ColorMap.h"
 #include "DOM/DOM_Comment.h"
@@ -13,6 +18,7 @@
 #include "DOM/DOM_SectionTag.h"
 #include "DOM/DOM_Theme.h"
 #include "DOM/FormulaSyntaxTree/DOM_Number.h"
+#include "DOM/Properties/DOM_BlipFill.h"
 #include "DOM/Properties/DOM_NamedTextStyle.h"
 #include "DOM/TextSamples.h"
 #include "DOM/ValueChecks.h"
@@ -23,6 +29,8 @@ namespace {
 
 using namespace QN::Test;
 using CollaborationUtils::IndexIncludingTombstones;
+
+static_assert(!std::is_polymorphic_v<Document>);
 
 constexpr const char* EmptyCollectionJson = R"({"_collection":[]})";
 
@@ -83,6 +91,17 @@ Document makeFullDocument()
     blocks.push_back(std::make_unique<FieldBlock>());
     blocks.push_back(nullptr);
     return document;
+}
+
+std::unique_ptr<Theme> makeThemeWithImage(std::shared_ptr<const std::string> bytes)
+{
+    auto fill = std::make_unique<BlipFill>();
+    fill->setContent(std::move(bytes));
+    FormatScheme scheme;
+    scheme.getFills().push_back(std::move(fill));
+    auto theme = std::make_unique<Theme>();
+    theme->setFormatScheme(std::move(scheme));
+    return theme;
 }
 
 TEST(DOM_Document, HasItsDefaultsWhenItIsNew)
@@ -157,6 +176,19 @@ TEST(DOM_Document, SettingNoThemeClearsIt)
     EXPECT_EQ(document.getColorMap(), nullptr);
 }
 
+TEST(DOM_Document, SettingAThemeDestroysTheFormerOne)
+{
+    const auto bytes = std::make_shared<const std::string>("image");
+    Document document;
+    document.setTheme(makeThemeWithImage(bytes));
+    EXPECT_EQ(bytes.use_count(), 2);
+    document.setTheme(nullptr);
+    EXPECT_EQ(bytes.use_count(), 1);
+    document.setTheme(makeThemeWithImage(bytes));
+    document.setTheme(std::make_unique<Theme>());
+    EXPECT_EQ(bytes.use_count(), 1);
+}
+
 TEST(DOM_Document, EqualsAnotherNewOne)
 {
     EXPECT_EQ(Document(), Document());
@@ -193,6 +225,60 @@ TEST(DOM_Document, ComparesThemesAndColorMapsByValue)
     colorMap->setMapping(static_cast<ThemeColorId>(0), static_cast<ThemeColorId>(1));
     right.setColorMap(std::move(colorMap));
     EXPECT_NE(left, right);
+}
+
+TEST(DOM_Document, AThemeOrAColorMapEqualsNoneOnlyWhereThereIsNoneOnTheOtherSide)
+{
+    Document left;
+    Document right;
+    left.setTheme(std::make_unique<Theme>());
+    EXPECT_NE(left, right);
+    EXPECT_NE(right, left);
+    right.setTheme(std::make_unique<Theme>());
+    EXPECT_EQ(left, right);
+    right.setColorMap(std::make_unique<ColorMap>());
+    EXPECT_NE(left, right);
+    EXPECT_NE(right, left);
+}
+
+TEST(DOM_Document, ComparesNumberedListsInTheirOrder)
+{
+    Document left;
+    Document right;
+    left.getNumLists().emplace_back(makeUUID('1'));
+    left.getNumLists().emplace_back(makeUUID('2'));
+    right.getNumLists().emplace_back(makeUUID('2'));
+    right.getNumLists().emplace_back(makeUUID('1'));
+    EXPECT_NE(left, right);
+    std::swap(right.getNumLists().front(), right.getNumLists().back());
+    EXPECT_EQ(left, right);
+    right.getNumLists().pop_back();
+    EXPECT_NE(left, right);
+}
+
+template <class T, class Change>
+void expectComparedByIdentityAndElement(UUIDContainer<T>& (Document::*getContainer)(), Change change)
+{
+    Document left;
+    Document right;
+    (left.*getContainer)() = makeContainer<T>('1');
+    (right.*getContainer)() = makeContainer<T>('2');
+    EXPECT_NE(left, right);
+    (right.*getContainer)() = makeContainer<T>('1');
+    EXPECT_EQ(left, right);
+    change(*(right.*getContainer)().find(makeUUID('1')));
+    EXPECT_NE(left, right);
+}
+
+TEST(DOM_Document, ComparesContainersByIdentityAndByElement)
+{
+    expectComparedByIdentityAndElement<HeaderFooterPair>(
+        &Document::getHeadersFooters,
+        [](HeaderFooterPair& pair) { pair.setNextHeaderFooterUUID(makeUUID('9')); });
+    expectComparedByIdentityAndElement<Comment>(&Document::getComments,
+                                                [](Comment& comment) { comment.setResolved(true); });
+    expectComparedByIdentityAndElement<Note>(&Document::getNotes,
+                                             [](Note& note) { note.setAlwaysVisible(true); });
 }
 
 TEST(DOM_Document, ComparesDefinedNamesWhateverTheirOrder)
@@ -241,6 +327,13 @@ TEST(DOM_Document, ATabStopDistanceThatIsNoNumberMakesItUnequalToItself)
     EXPECT_FALSE(document == Document());
 }
 
+TEST(DOM_Document, ATabStopDistanceThatIsNoNumberSurvivesAFile)
+{
+    Document document;
+    document.setTabStopDistance(std::numeric_limits<float>::quiet_NaN());
+    EXPECT_TRUE(std::isnan(fromJson<Document>(toJson(document)).getTabStopDistance()));
+}
+
 TEST(DOM_Document, CopiesAndMoves)
 {
     expectCopiesAndMoves(Document());
@@ -276,6 +369,49 @@ TEST(DOM_Document, ACopyHasTheIdentitiesOfItsSourceAndSharesNothingThatCanChange
     EXPECT_EQ(document, expected);
     EXPECT_NE(copy.getTheme(), document.getTheme());
     EXPECT_NE(copy.getColorMap(), document.getColorMap());
+}
+
+TEST(DOM_Document, AnExpressionThatIsNullStaysSoInACopy)
+{
+    Document document;
+    document.getDefinedNames()["name"] = nullptr;
+    const Document copy = document;
+    ASSERT_EQ(copy.getDefinedNames().size(), 1U);
+    EXPECT_TRUE(copy.getDefinedNames().at("name") == nullptr);
+    EXPECT_EQ(copy, document);
+}
+
+TEST(DOM_Document, ACopyThatFailsLeavesTheTargetAsItWas)
+{
+    Document source;
+    source.getProps().setTitle(std::string("of the source"));
+    auto paragraph = std::make_unique<Paragraph>();
+    paragraph->getRuns().push_back(std::make_unique<UncopyableRun>());
+    source.getBlocks().push_back(std::move(paragraph));
+    EXPECT_THROW(makeCopy(source), std::bad_alloc);
+
+    Document target = makeFullDocument();
+    const Block* const block = target.getBlocks().front().get();
+    EXPECT_THROW(target = source, std::bad_alloc);
+    EXPECT_EQ(target, makeFullDocument());
+    EXPECT_EQ(target.getBlocks().front().get(), block);
+}
+
+TEST(DOM_Document, ADocumentThatWasMovedFromCanBeFilledAgain)
+{
+    Document document = makeFullDocument();
+    const Document moved = std::move(document);
+    EXPECT_EQ(moved, makeFullDocument());
+    loadJson(toJson(Document()), document);
+    EXPECT_EQ(document, Document());
+}
+
+TEST(DOM_Document, SwappingItWithItselfChangesNothing)
+{
+    Document document = makeFullDocument();
+    Document& itself = document;
+    std::swap(document, itself);
+    EXPECT_EQ(document, makeFullDocument());
 }
 
 TEST(DOM_Document, ACopyKeepsThePoolsOfItsSource)

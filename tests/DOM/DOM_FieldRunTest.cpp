@@ -112,6 +112,16 @@ TEST(DOM_FieldRun, ACopySharesTheToken)
     EXPECT_EQ(dynamic_cast<const FieldRun&>(*cloneUnique<DOM::Run>(run)).getID(), run.getID());
 }
 
+TEST(DOM_FieldRun, AnAssignedOrMovedRunSharesTheToken)
+{
+    FieldRun run;
+    FieldRun assigned;
+    assigned = run;
+    EXPECT_EQ(assigned.getID(), run.getID());
+    const auto token = run.getID();
+    EXPECT_EQ(FieldRun(std::move(run)).getID(), token);
+}
+
 TEST(DOM_FieldRun, TheTokenIsNoPartOfEquality)
 {
     const FieldRun run;

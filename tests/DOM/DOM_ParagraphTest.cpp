@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <new>
+#include <utility>
+
 #include "DOM/TextSamples.h"
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
@@ -104,6 +108,54 @@ TEST(DOM_Paragraph, ACopyStrategyTellsWhetherTheRunsAreTaken)
     EXPECT_EQ(without.getSharedParaMarkStyle(), paragraph.getSharedParaMarkStyle());
     EXPECT_EQ(*without.getNumRef(), *paragraph.getNumRef());
     EXPECT_EQ(without.getID(), paragraph.getID());
+}
+
+TEST(DOM_Paragraph, ACopyOfAParagraphOutsideListsIsOutsideListsByEitherStrategy)
+{
+    const Paragraph paragraph = makeParagraphValue({"a"});
+    EXPECT_EQ(Paragraph(paragraph, Paragraph::CopyStrategy::Everything).getNumRef(), nullptr);
+    EXPECT_EQ(Paragraph(paragraph, Paragraph::CopyStrategy::WithoutRuns).getNumRef(), nullptr);
+}
+
+TEST(DOM_Paragraph, ACopyThatFailsLeavesTheTargetAsItWas)
+{
+    Paragraph source;
+    source.getSharedStyle() = makeSharedStyle<ParagraphStyle>('3');
+    source.getRuns().push_back(std::make_unique<UncopyableRun>());
+    Paragraph target = makeFullParagraph();
+    const auto token = target.getID();
+    EXPECT_THROW(target = source, std::bad_alloc);
+    EXPECT_EQ(target, makeFullParagraph());
+    EXPECT_EQ(target.getID(), token);
+    EXPECT_TRUE(Paragraph(source, Paragraph::CopyStrategy::WithoutRuns).getRuns().empty());
+}
+
+TEST(DOM_Paragraph, AMoveTakesTheContentOverAndLeavesTheTokenToBoth)
+{
+    Paragraph source = makeFullParagraph();
+    const auto token = source.getID();
+    const DOM::Run* const run = source.getRuns().front().get();
+    const Paragraph moved(std::move(source));
+    EXPECT_EQ(&moved.getRuns().front(), run);
+    EXPECT_EQ(moved.getID(), token);
+    EXPECT_EQ(source.getID(), token);
+    loadJson(toJson(Paragraph()), source);
+    EXPECT_EQ(source, Paragraph());
+}
+
+TEST(DOM_Paragraph, SwappingItWithItselfChangesNothing)
+{
+    Paragraph paragraph = makeFullParagraph();
+    Paragraph& itself = paragraph;
+    std::swap(paragraph, itself);
+    EXPECT_EQ(paragraph, makeFullParagraph());
+}
+
+TEST(DOM_Paragraph, LoadingReplacesWhatWasThere)
+{
+    Paragraph paragraph = makeFullParagraph();
+    loadJson(toJson(Paragraph()), paragraph);
+    EXPECT_EQ(paragraph, Paragraph());
 }
 
 TEST(DOM_Paragraph, ACopyHasTheTokenOfItsSource)

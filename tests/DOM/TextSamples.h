@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <new>
 #include <string>
 #include <utility>
 #include <vector>
@@ -75,6 +76,21 @@ inline std::vector<std::unique_ptr<DOM::Run>> makeOneRunOfEachKind()
     runs.push_back(std::make_unique<DOM::AnchorRun>());
     return runs;
 }
+
+/// A run that cannot be copied.
+class UncopyableRun final : public DOM::Run {
+public:
+    void cloneTo(std::shared_ptr<DOM::Run>& /*target*/) const override { throw std::bad_alloc(); }
+    void cloneTo(std::unique_ptr<DOM::Run>& /*target*/) const override { throw std::bad_alloc(); }
+    void accept(Visitor& /*visitor*/) override {}
+    void accept(ConstVisitor& /*visitor*/) const override {}
+
+    const std::string& getText() const override
+    {
+        static const std::string Text;
+        return Text;
+    }
+};
 
 /// The JSON text of a null handle.
 inline constexpr const char* NullHandleJson = R"({"id":0})";
