@@ -95,6 +95,26 @@ TEST(BlipFillTest, AClonedCopyHasTheBytesInAHolderOfItsOwn)
     EXPECT_EQ(source.getContent().use_count(), 1);
 }
 
+TEST(BlipFillTest, AssigningItToItselfKeepsTheHolder)
+{
+    const auto bytes = std::make_shared<const std::string>("bytes");
+    BlipFill fill;
+    fill.setContent(bytes);
+    const BlipFill& itself = fill;
+    fill = itself;
+    EXPECT_EQ(fill.getContent(), bytes);
+}
+
+TEST(BlipFillTest, AMoveTakesTheHolderOver)
+{
+    const auto bytes = std::make_shared<const std::string>("bytes");
+    BlipFill fill;
+    fill.setContent(bytes);
+    const BlipFill moved(std::move(fill));
+    EXPECT_EQ(moved.getContent(), bytes);
+    EXPECT_EQ(bytes.use_count(), 2);
+}
+
 TEST(BlipFillTest, ACopyOfAFillWithoutContentHasNone)
 {
     const BlipFill source = makeFill(BlipType::Tile);

@@ -179,4 +179,17 @@ TEST(CellStyleTest, RebaseLeavesEmptyPropertiesAndReplacesTheUUIDsWhoseReference
               }));
 }
 
+TEST(CellStyleTest, AStyleIsCombinedWithItself)
+{
+    CellStyle style = makeFullCellStyle();
+    const CellStyle& itself = style;
+    override(style, itself);
+    EXPECT_EQ(style, makeFullCellStyle());
+    exclude(style, itself);
+    EXPECT_EQ(style, with<CellStyle>([](CellStyle& s) {
+                  s.setParentUUID(SomeUUID);
+                  s.setNoteUUID(OtherUUID);
+              }));
+}
+
 } // namespace QN::DOM::CellStyleTest

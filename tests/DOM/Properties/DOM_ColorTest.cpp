@@ -188,6 +188,14 @@ TEST(ColorTest, ANanAmountSurvivesAFile)
     EXPECT_TRUE(std::isnan(boost::get<Tint>(loaded.getTransforms().front()).get()));
 }
 
+TEST(ColorTest, SwappingItWithItselfChangesNothing)
+{
+    Color color(ThemeColorId::Accent2, {Tint(0.5), Gray()});
+    Color& itself = color;
+    std::swap(color, itself);
+    EXPECT_EQ(color, Color(ThemeColorId::Accent2, {Tint(0.5), Gray()}));
+}
+
 TEST(ColorTest, IsAValueWithoutVirtualFunctions)
 {
     static_assert(!std::is_polymorphic_v<Color>);

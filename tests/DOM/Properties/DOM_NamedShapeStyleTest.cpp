@@ -104,6 +104,13 @@ TEST(NamedShapeStyleTest, ACopySharesNeitherBackgroundNorText)
     EXPECT_EQ(style, makeFullStyle());
 }
 
+TEST(NamedShapeStyleTest, LoadingReplacesWhatWasThere)
+{
+    NamedShapeStyle style = makeFullStyle();
+    loadJson(toJson(NamedShapeStyle(OtherUUID)), style);
+    EXPECT_EQ(style, NamedShapeStyle(OtherUUID));
+}
+
 TEST(NamedShapeStyleTest, EachMemberAndTheIdentityTakePartInEquality)
 {
     const auto changed = [](auto change) {

@@ -96,6 +96,22 @@ TEST(NamedTextStyleTest, ACopyHasTheIdentityOfItsSourceAndItsOwnNumbering)
     EXPECT_NE(copy, style);
 }
 
+TEST(NamedTextStyleTest, AStyleMayBeItsOwnParent)
+{
+    NamedTextStyle style(SomeUUID);
+    style.setParentUUID(SomeUUID);
+    style.setNextParagraphStyleUUID(SomeUUID);
+    expectPersists(style);
+    expectCopiesAndMoves(style);
+}
+
+TEST(NamedTextStyleTest, LoadingReplacesWhatWasThere)
+{
+    NamedTextStyle style = makeFullStyle();
+    loadJson(toJson(NamedTextStyle(OtherUUID)), style);
+    EXPECT_EQ(style, NamedTextStyle(OtherUUID));
+}
+
 TEST(NamedTextStyleTest, EachMemberAndTheIdentityTakePartInEquality)
 {
     const auto changed = [](auto change) {

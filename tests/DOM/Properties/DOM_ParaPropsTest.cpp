@@ -277,4 +277,25 @@ TEST(ParaPropsTest, RebaseLeavesEmptyBordersWhereNothingIsSaidOnAnySide)
     EXPECT_EQ(*target.getBorders(), BordersProps());
 }
 
+TEST(ParaPropsTest, ASetIsCombinedWithItself)
+{
+    ParaProps props = makeFullParaProps();
+    const ParaProps& itself = props;
+    override(props, itself);
+    EXPECT_EQ(props, makeFullParaProps());
+    intersect(props, itself);
+    EXPECT_EQ(props, makeFullParaProps());
+    rebaseProperty(props, itself, itself, itself);
+    EXPECT_EQ(props, makeFullParaProps());
+    exclude(props, itself);
+    EXPECT_EQ(props, ParaProps());
+}
+
+TEST(ParaPropsTest, LoadingReplacesWhatWasThere)
+{
+    ParaProps props = makeFullParaProps();
+    loadJson(toJson(ParaProps()), props);
+    EXPECT_EQ(props, ParaProps());
+}
+
 } // namespace QN::DOM::ParaPropsTest

@@ -148,4 +148,17 @@ TEST(ParagraphStyleTest, ExcludeGoesThroughPropertiesThatDiffer)
     EXPECT_EQ(*target.getRunProps(), *makeRunProps(3.0F));
 }
 
+TEST(ParagraphStyleTest, AStyleIsCombinedWithItself)
+{
+    ParagraphStyle style = makeFullParagraphStyle();
+    const ParagraphStyle& itself = style;
+    override(style, itself);
+    EXPECT_EQ(style, makeFullParagraphStyle());
+    exclude(style, itself);
+    ParagraphStyle expected = makeFullParagraphStyle();
+    expected.setParaProps(nullptr);
+    expected.setRunProps(nullptr);
+    EXPECT_EQ(style, expected);
+}
+
 } // namespace QN::DOM::ParagraphStyleTest

@@ -261,4 +261,25 @@ TEST(RunPropsTest, RebaseKeepsAnUnderlineWhoseReferencesDiffer)
     EXPECT_EQ(*target.getUnderline(), *makeLine(1.0F));
 }
 
+TEST(RunPropsTest, ASetIsCombinedWithItself)
+{
+    RunProps props = makeFullRunProps();
+    const RunProps& itself = props;
+    override(props, itself);
+    EXPECT_EQ(props, makeFullRunProps());
+    intersect(props, itself);
+    EXPECT_EQ(props, makeFullRunProps());
+    rebaseProperty(props, itself, itself, itself);
+    EXPECT_EQ(props, makeFullRunProps());
+    exclude(props, itself);
+    EXPECT_EQ(props, RunProps());
+}
+
+TEST(RunPropsTest, LoadingReplacesWhatWasThere)
+{
+    RunProps props = makeFullRunProps();
+    loadJson(toJson(RunProps()), props);
+    EXPECT_EQ(props, RunProps());
+}
+
 } // namespace QN::DOM::RunPropsTest

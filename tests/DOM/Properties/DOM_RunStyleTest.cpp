@@ -114,6 +114,20 @@ TEST(RunStyleTest, EqualityLooksThroughPointers)
     EXPECT_NE(other, makeFullRunStyle());
 }
 
+TEST(RunStyleTest, LoadingReplacesWhatWasThere)
+{
+    RunStyle style = makeFullRunStyle();
+    loadJson(toJson(RunStyle()), style);
+    EXPECT_EQ(style, RunStyle());
+}
+
+TEST(RunStyleTest, OneCommentMayBeStatedTwice)
+{
+    const auto style = with<RunStyle>([](RunStyle& s) { s.getCommentUUIDs() = {SomeUUID, SomeUUID}; });
+    EXPECT_NE(style, with<RunStyle>([](RunStyle& s) { s.getCommentUUIDs() = {SomeUUID}; }));
+    expectPersists(style);
+}
+
 TEST(RunStyleTest, OrdersByMembersInKeyOrderWithTheAbsentFirst)
 {
     expectAscending<RunStyle>({

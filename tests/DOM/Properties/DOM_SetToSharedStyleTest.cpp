@@ -33,6 +33,14 @@ TEST(SetToSharedStyleTest, TheOtherMembersStayAndTheFormerStyleIsLeftAsItWas)
     EXPECT_EQ(former->get(), withParent<CellStyle>(OtherUUID));
 }
 
+TEST(SetToSharedStyleTest, TheNewValueMayStandInTheStyleThatIsReplaced)
+{
+    const SharedObjectFactory factory;
+    auto style = share(withParent<CellStyle>(OtherUUID));
+    setToSharedStyleVariadicImpl(factory, style, &CellStyle::setNoteUUID, style->get().getParentUUID());
+    EXPECT_EQ(style->get().getNoteUUID(), OtherUUID);
+}
+
 TEST(SetToSharedStyleTest, TheResultIsInterned)
 {
     const SharedObjectFactory factory;

@@ -126,6 +126,55 @@ TEST(StylesTest, EachMemberTakesPartInEquality)
     EXPECT_NE(makeFullStyles(), changed([](Styles& s) { s.setDefaultRunProps(nullptr); }));
 }
 
+TEST(StylesTest, ParentsMayMakeACircleOrNotBeThere)
+{
+    Styles styles;
+    NamedTextStyle first(SomeUUID);
+    first.setParentUUID(OtherUUID);
+    NamedTextStyle second(OtherUUID);
+    second.setParentUUID(SomeUUID);
+    styles.getTextStyles().insert(first);
+    styles.getTextStyles().insert(second);
+    NamedTableStyle table(SomeUUID);
+    table.setParentUUID(SomeUUID);
+    styles.getTableStyles().insert(table);
+    NamedShapeStyle shape(SomeUUID);
+    shape.setParentUUID(OtherUUID);
+    styles.getShapeStyles().insert(std::move(shape));
+    styles.setDefaultTableStyleUUID(OtherUUID);
+    expectPersists(styles);
+    expectCopiesAndMoves(styles);
+    EXPECT_FALSE(styles.getHyperlinkStyleUUID());
+}
+
+TEST(StylesTest, AFileWithTwoStylesOfOneUUIDIsRefused)
+{
+    Styles styles;
+    styles.getTextStyles().insert(NamedTextStyle(SomeUUID));
+    std::string json = toJson(styles);
+    const std::string start = R"({"_textStyles":{"_collection":[)";
+    ASSERT_EQ(json.substr(0, start.size()), start);
+    const std::string entry = json.substr(start.size(), json.find("]}") - start.size());
+    json.insert(start.size(), entry + ",");
+    EXPECT_EQ(loadError<Styles>(json),
+              "The UUID 00000000-0000-0000-0000-000000000001 occurs twice in a collection");
+}
+
+TEST(StylesTest, LoadingReplacesWhatWasThere)
+{
+    Styles styles = makeFullStyles();
+    loadJson(toJson(Styles()), styles);
+    EXPECT_EQ(styles, Styles());
+}
+
+TEST(StylesTest, SwappingAStoreWithItselfChangesNothing)
+{
+    Styles styles = makeFullStyles();
+    Styles& itself = styles;
+    std::swap(styles, itself);
+    EXPECT_EQ(styles, makeFullStyles());
+}
+
 TEST(StylesTest, WithoutAHyperlinkStyleItsUUIDIsNil)
 {
     Styles styles;
