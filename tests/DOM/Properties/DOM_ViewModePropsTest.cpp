@@ -34,14 +34,6 @@ ParagraphStyle makeParagraphStyle(std::shared_ptr<const ParaProps> own,
 
 } // namespace
 
-TEST(TrackChangesViewModeTest, IsASetOfFlags)
-{
-    EXPECT_EQ(static_cast<unsigned>(TrackChangesViewMode::TrackedProps), 4U);
-    EXPECT_EQ(static_cast<unsigned>(static_cast<TrackChangesViewMode>(3U) | Tracked), 7U);
-    EXPECT_EQ(static_cast<TrackChangesViewMode>(6U) & Tracked, Tracked);
-    EXPECT_EQ(AllOthers & Tracked, TrackChangesViewMode::None);
-}
-
 TEST(ViewModePropsTest, WithTheFlagTheTrackedPropertiesAreSeen)
 {
     const auto ownRun = makeRunProps(1.0F);
