@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <sstream>
 #include <string>
+#include <string_view>
+#include <type_traits>
 #include <vector>
 
 #include "DOM/Tables/TableSamples.h"
@@ -12,15 +14,31 @@
 
 namespace QN::Test {
 
-inline const std::vector<DOM::TableChunk>& getChunks(const DOM::Table& table)
+template <class Member>
+const Member& getTableMember(const DOM::Table& table, std::string_view name)
 {
-    const std::vector<DOM::TableChunk>* chunks = nullptr;
+    const Member* found = nullptr;
     forEachMember<DOM::Table>([&](auto member) {
-        if constexpr (std::string_view(decltype(member)::name) == "_chunks") {
-            chunks = &(table.*member.pointer);
+        if constexpr (std::is_same_v<std::remove_cvref_t<decltype(table.*member.pointer)>, Member>) {
+            found = name == decltype(member)::name ? &(table.*member.pointer) : found;
         }
     });
-    return *chunks;
+    return *found;
+}
+
+inline const std::vector<DOM::TableChunk>& getChunks(const DOM::Table& table)
+{
+    return getTableMember<std::vector<DOM::TableChunk>>(table, "_chunks");
+}
+
+inline const std::vector<TableRange>& getMergedRanges(const DOM::Table& table)
+{
+    return getTableMember<DOM::MergedCellsCache>(table, "_mergedCellsCache").getMergedRanges();
+}
+
+inline const std::vector<TableRange>& getPivotRanges(const DOM::Table& table)
+{
+    return getTableMember<DOM::PivotTablesCache>(table, "_pivotTablesCache").getPivotRanges();
 }
 
 inline const std::vector<std::uint64_t>& getOffsets(const DOM::Table& table, std::size_t chunk)
