@@ -70,15 +70,28 @@ TEST(DOM_Run, ANullHandleIsUnequalToAHandleOfAnEmptyStyle)
     EXPECT_NE(TabRun(), withEmptyStyle);
 }
 
-TEST(DOM_Run, RunsOfTwoKindsAreNeverDeeplyEqual)
+TEST(DOM_Run, RunsOfTwoKindsAreNeverDeeplyEqualWhateverTheirStyles)
 {
     const Runs runs = makeOneRunOfEachKind();
     const Runs others = makeOneRunOfEachKind();
+    const auto style = makeSharedStyle<RunStyle>('1');
+    for (std::size_t index = 0; index < runs.size(); ++index) {
+        runs[index]->getSharedStyle() = style;
+        others[index]->getSharedStyle() = style;
+    }
     for (std::size_t left = 0; left < runs.size(); ++left) {
         for (std::size_t right = 0; right < others.size(); ++right) {
             EXPECT_EQ(areDeeplyEqual(*runs[left], *others[right]), left == right) << left << ' ' << right;
         }
     }
+}
+
+TEST(DOM_Run, ComparedThroughTheBaseOnlyTheStylesCount)
+{
+    const TextRun text("text");
+    const TabRun tab;
+    EXPECT_TRUE(static_cast<const DOM::Run&>(text) == static_cast<const DOM::Run&>(tab));
+    EXPECT_FALSE(areDeeplyEqual(text, tab));
 }
 
 TEST(DOM_Run, ACloneHasTheKindTheContentAndTheStyleOfItsSource)

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "DOM/DOM_TrackedObject.h"
@@ -119,6 +120,22 @@ TEST(RunStyleTest, LoadingReplacesWhatWasThere)
     RunStyle style = makeFullRunStyle();
     loadJson(toJson(RunStyle()), style);
     EXPECT_EQ(style, RunStyle());
+}
+
+TEST(RunStyleTest, PropertiesThatTwoStylesShareAreWrittenOnceAndStayShared)
+{
+    const auto props = makeRunProps(1.0F);
+    const auto makeStyle = [&](const UUID& parent) {
+        return with<RunStyle>([&](RunStyle& style) {
+            style.setRunProps(props);
+            style.setParentUUID(parent);
+        });
+    };
+    const std::vector<RunStyle> styles{makeStyle(SomeUUID), makeStyle(OtherUUID)};
+    EXPECT_NE(toJson(styles).find(R"({"_runProps":{"ptr_wrapper":{"id":1}},)"), std::string::npos);
+    const auto loaded = fromJson<std::vector<RunStyle>>(toJson(styles));
+    EXPECT_EQ(loaded, styles);
+    EXPECT_EQ(loaded[0].getRunProps(), loaded[1].getRunProps());
 }
 
 TEST(RunStyleTest, OneCommentMayBeStatedTwice)

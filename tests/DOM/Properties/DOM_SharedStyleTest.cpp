@@ -124,6 +124,15 @@ TEST(SharedStyleHandleTest, OfTwoStylesThatAFileStatesUnderOneIdTheLaterIsMeantF
     EXPECT_EQ(loaded[2], loaded[1]);
 }
 
+TEST(SharedStyleHandleTest, AStyleThatRefersToItselfIsRefused)
+{
+    std::string json = toJson(shareEmpty<RowStyle>());
+    const std::string null = R"("_defaultCellStyle":{"id":0})";
+    json.replace(json.find(null), null.size(), R"("_defaultCellStyle":{"id":1})");
+    EXPECT_EQ(loadError<SharedStylePtr<RowStyle>>(json),
+              "Error while trying to deserialize a smart pointer. Could not find id 1");
+}
+
 TEST(SharedStyleHandleTest, ALoadedStyleIsDestroyedWithItsLastHandle)
 {
     const auto props = makeRunProps(1.0F);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
 
 #include "DOM/Properties/StyleSamples.h"
 #include "DOM/ValueChecks.h"
@@ -65,6 +66,32 @@ TEST(TableStyleTest, ASetMemberIsReadBackAndPersists)
     expectPersists(style);
     expectPersists(TableStyle());
     expectCopiesAndMoves(style);
+}
+
+TEST(TableStyleTest, OneDefaultCellStyleOfRowsAndColumnsIsWrittenOnceAndStaysOne)
+{
+    const auto cellStyle = share(withParent<CellStyle>(OtherUUID));
+    const auto style = with<TableStyle>([&](TableStyle& s) {
+        s.getSharedDefaultRowStyle() =
+            share(with<RowStyle>([&](RowStyle& row) { row.getSharedDefaultCellStyle() = cellStyle; }));
+        s.getSharedDefaultColumnStyle() = share(
+            with<ColumnStyle>([&](ColumnStyle& column) { column.getSharedDefaultCellStyle() = cellStyle; }));
+    });
+    const std::string json = toJson(style);
+    EXPECT_EQ(json.find(OtherUUID.toString()), json.rfind(OtherUUID.toString()));
+    const auto loaded = fromJson<TableStyle>(json);
+    EXPECT_EQ(loaded, style);
+    EXPECT_EQ(loaded.getDefaultRowStyle().getSharedDefaultCellStyle(),
+              loaded.getDefaultColumnStyle().getSharedDefaultCellStyle());
+}
+
+TEST(TableStyleTest, LoadingReplacesWhatWasThere)
+{
+    auto style = withParent<TableStyle>(SomeUUID);
+    style.setTableProps(makeTableProps(1.0F));
+    style.getSharedDefaultRowStyle() = share(withParent<RowStyle>(SomeUUID));
+    loadJson(toJson(TableStyle()), style);
+    EXPECT_EQ(style, TableStyle());
 }
 
 TEST(TableStyleTest, AnySingleMemberMakesItNonEmpty)
