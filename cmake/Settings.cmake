@@ -54,6 +54,8 @@ if(DOM_SANITIZE)
         -fsanitize=${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(dom_settings INTERFACE -fsanitize=${DOM_SANITIZE})
     if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
+        target_compile_options(dom_settings INTERFACE
+            -fsanitize-ignorelist=${PROJECT_SOURCE_DIR}/cmake/SanitizerIgnore.txt)
         # Compares type information by address, which differs between the library and a program.
         target_compile_options(dom_settings INTERFACE -fno-sanitize=function)
     endif()
