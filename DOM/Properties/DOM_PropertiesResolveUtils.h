@@ -4,6 +4,7 @@
 #include <boost/optional/optional.hpp>
 #include <boost/variant/variant.hpp>
 
+#include <iterator>
 #include <memory>
 #include <type_traits>
 #include <utility>

@@ -1,6 +1,6 @@
 #include "DOM/Shapes/DOM_LinearCommand.h"
 
-#include "DOM/Shapes/DOM_DefineTemplates.h"
+#include "Utils/Public/ClassScheme/DefineTemplates.h"
 
 namespace QN::DOM::DrawingCommands {
 

@@ -44,7 +44,7 @@ public:
     }
 
     QN_ORDERED_VALUE(TableRangeByID)
-    QN_JSON_ORDER(0, 2, 1, 3)
+    QN_JSON_ORDER(TableRangeByID, 0, 2, 1, 3)
 
 private:
     RowID _beginRowID{0};

@@ -29,7 +29,7 @@ public:
     void setValue(std::uint32_t value) { _value = value; }
 
     QN_VALUE(TopBottomConditionalFormatOperator)
-    QN_JSON_ORDER(0, 2, 1)
+    QN_JSON_ORDER(TopBottomConditionalFormatOperator, 0, 2, 1)
 
 private:
     Type _type = Type::Top;

@@ -1,6 +1,6 @@
 #include "DOM/Shapes/DrawingFormulas/DOM_DrawingFormulasReference.h"
 
-#include "DOM/Shapes/DOM_DefineTemplates.h"
+#include "Utils/Public/ClassScheme/DefineTemplates.h"
 
 namespace QN::DOM::DrawingFormulas {
 

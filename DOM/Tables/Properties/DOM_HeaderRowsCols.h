@@ -42,7 +42,7 @@ public:
     void setColRange(const ColumnRange& colRange);
 
     QN_ORDERED_VALUE(HeaderRowsCols)
-    QN_JSON_ORDER(0, 2, 1, 3)
+    QN_JSON_ORDER(HeaderRowsCols, 0, 2, 1, 3)
 
 private:
     boost::optional<RowID> _beginRowID;

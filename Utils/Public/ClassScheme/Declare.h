@@ -3,6 +3,7 @@
 #include <boost/describe/class.hpp>
 
 #include <compare>
+#include <utility>
 
 #include "Utils/Public/Export.h"
 
@@ -51,5 +52,10 @@ enum class NanOrder : bool { Unordered, Last };
     Class(Class&&) noexcept = default;                                                                       \
     Class& operator=(Class&&) noexcept = default;
 
-/// The order of the keys in a file where it is not that of the member list: indices into the list.
-#define QN_JSON_ORDER(...) using JsonOrder = std::index_sequence<__VA_ARGS__>;
+/// The order of the keys in a file where it is not that of the member list: indices into the list, each one once. Holds
+/// wherever it stands in the class, and not for classes derived from it.
+#define QN_JSON_ORDER(Class, ...)                                                                            \
+    [[maybe_unused]] friend constexpr std::index_sequence<__VA_ARGS__> getJsonOrder(Class**)                 \
+    {                                                                                                        \
+        return {};                                                                                           \
+    }

@@ -3,6 +3,7 @@
 #include <compare>
 #include <cstddef>
 #include <cstring>
+#include <type_traits>
 #include <typeinfo>
 
 #include "Utils/Public/ClassScheme/Declare.h"

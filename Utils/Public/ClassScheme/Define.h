@@ -3,6 +3,10 @@
 /// The source-file half of a class's member list: what saves, loads, compares, orders, copies and clones it is
 /// instantiated here, once, in the class's own source. Heavy: not for headers.
 
+#include <compare>
+#include <memory>
+#include <utility>
+
 #include "Utils/Public/Archive/Persist.h"
 #include "Utils/Public/Archive/PersistPointers.h"
 #include "Utils/Public/Archive/PersistStandard.h"

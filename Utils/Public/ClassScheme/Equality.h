@@ -5,10 +5,7 @@
 #include <boost/variant/get.hpp>
 #include <boost/variant/variant.hpp>
 
-#include <memory>
-#include <string>
-#include <utility>
-#include <vector>
+#include <type_traits>
 
 #include "Utils/Public/ClassScheme/Members.h"
 #include "Utils/Public/ClassScheme/TypeTraits.h"

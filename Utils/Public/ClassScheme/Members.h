@@ -3,7 +3,8 @@
 #include <boost/describe/bases.hpp>
 #include <boost/describe/members.hpp>
 
-#include <string_view>
+#include <cstddef>
+#include <cstdint>
 #include <type_traits>
 #include <utility>
 
@@ -53,6 +54,22 @@ constexpr void forEachIn(std::index_sequence<Indices...>, Function&& function)
     (function(typename DescriptorAt<List, Indices>::type{}), ...);
 }
 
+template <class T>
+concept HasJsonOrder = requires(T** object)
+{
+    getJsonOrder(object);
+};
+
+/// Whether the indices are those of all descriptors, each one once.
+template <template <class...> class List, class... Descriptors, std::size_t... Indices>
+constexpr bool isPermutation(List<Descriptors...>, std::index_sequence<Indices...>)
+{
+    constexpr std::size_t Count = sizeof...(Descriptors);
+    constexpr std::uint64_t Found = (std::uint64_t{0} | ... | (std::uint64_t{1} << Indices));
+    static_assert(Count < 64);
+    return sizeof...(Indices) == Count && Found == (std::uint64_t{1} << Count) - 1;
+}
+
 } // namespace MembersDetails
 
 /// Calls `function(descriptor)` for each direct base; `descriptor::type` is the base.
@@ -73,8 +90,10 @@ constexpr void forEachMember(Function&& function)
 template <class T, class Function>
 constexpr void forEachKey(Function&& function)
 {
-    if constexpr (requires { typename T::JsonOrder; }) {
-        MembersDetails::forEachIn<MembersOf<T>>(typename T::JsonOrder{}, function);
+    if constexpr (MembersDetails::HasJsonOrder<T>) {
+        constexpr auto Order = getJsonOrder(static_cast<T**>(nullptr));
+        static_assert(MembersDetails::isPermutation(MembersOf<T>{}, Order), "each member has one place");
+        MembersDetails::forEachIn<MembersOf<T>>(Order, function);
     } else {
         forEachMember<T>(function);
     }

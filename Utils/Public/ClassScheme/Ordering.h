@@ -6,6 +6,7 @@
 #include <cmath>
 #include <compare>
 #include <string>
+#include <type_traits>
 
 #include "Utils/Public/Cinder.h"
 #include "Utils/Public/ClassScheme/Declare.h"

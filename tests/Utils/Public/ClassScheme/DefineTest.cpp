@@ -97,12 +97,12 @@ public:
     Reordered() = default;
     Reordered(int begin, int end) : _begin(begin), _end(end) {}
     QN_ORDERED_VALUE(Reordered)
-    QN_JSON_ORDER(1, 0)
 
 private:
     int _begin = 0;
     int _end = 0;
 
+    QN_JSON_ORDER(Reordered, 1, 0)
     BOOST_DESCRIBE_CLASS(Reordered, (), (), (), (_begin, _end))
 };
 QN_DEFINE_ORDERED_VALUE(Reordered)
@@ -157,13 +157,42 @@ TEST(DefineTest, EachChangeOfAFileOfEverythingGivesAnObjectOrAnException)
             try {
                 fromJson<Everything>(changed);
                 ++loaded;
-            } catch (const cereal::Exception&) {
+            } catch (const cereal::Exception& error) {
+                EXPECT_TRUE(isStatedLoadError(error.what())) << changed << "\n" << error.what();
                 ++refused;
             }
         }
     }
     EXPECT_GT(loaded, 100);
     EXPECT_GT(refused, 1000);
+}
+
+TEST(DefineTest, AnyValueInPlaceOfAnotherGivesAnObjectOrAnException)
+{
+    int loaded = 0;
+    int refused = 0;
+    forEachReplacedValue(toJson(makeEverything()), [&](const std::string& changed) {
+        try {
+            const std::string json = toJson(fromJson<Everything>(changed));
+            EXPECT_EQ(toJson(fromJson<Everything>(json)), json);
+            ++loaded;
+        } catch (const cereal::Exception& error) {
+            EXPECT_TRUE(isStatedLoadError(error.what())) << changed << "\n" << error.what();
+            ++refused;
+        }
+    });
+    EXPECT_GT(loaded, 100);
+    EXPECT_GT(refused, 1000);
+}
+
+TEST(DefineTest, FileOfEverythingCutOffAnywhereRaises)
+{
+    const std::string json = toJson(makeEverything());
+    for (std::size_t length = 0; length < json.size(); ++length) {
+        EXPECT_EQ(loadError<Everything>(json.substr(0, length)),
+                  "rapidjson internal assertion failure: IsObject()")
+            << length;
+    }
 }
 
 TEST(DefineTest, CopyIsDeepAndEqual)

@@ -16,6 +16,7 @@ namespace QN::MembersTest {
 namespace {
 
 struct First {};
+BOOST_DESCRIBE_STRUCT(First, (), ())
 struct Second {};
 struct Undescribed {};
 
@@ -38,7 +39,7 @@ public:
 
 class Reordered {
 public:
-    QN_JSON_ORDER(2, 0, 1)
+    QN_JSON_ORDER(Reordered, 2, 0, 1)
 
 private:
     int _a = 1;
@@ -46,6 +47,23 @@ private:
     int _c = 3;
 
     BOOST_DESCRIBE_CLASS(Reordered, (), (), (), (_a, _b, _c))
+};
+
+template <class T>
+class PrivatelyReordered {
+    T _a{};
+    T _b{};
+
+    QN_JSON_ORDER(PrivatelyReordered, 1, 0)
+    BOOST_DESCRIBE_CLASS(PrivatelyReordered, (), (), (), (_a, _b))
+};
+
+class DerivedFromReordered : public Reordered {
+    int _d = 4;
+    int _e = 5;
+    int _f = 6;
+
+    BOOST_DESCRIBE_CLASS(DerivedFromReordered, (Reordered), (), (), (_d, _e, _f))
 };
 
 template <class T>
@@ -103,6 +121,30 @@ TEST(MembersTest, KeysStandInTheOrderOfTheMembersUnlessTheClassStatesAnother)
     EXPECT_EQ(getKeys<Listed>(), getMemberNames<Listed>());
     EXPECT_EQ(getMemberNames<Reordered>(), (std::vector<std::string>{"_a", "_b", "_c"}));
     EXPECT_EQ(getKeys<Reordered>(), (std::vector<std::string>{"_c", "_a", "_b"}));
+}
+
+TEST(MembersTest, StatedOrderHoldsWhereverItStandsInTheClass)
+{
+    EXPECT_EQ(getMemberNames<PrivatelyReordered<int>>(), (std::vector<std::string>{"_a", "_b"}));
+    EXPECT_EQ(getKeys<PrivatelyReordered<int>>(), (std::vector<std::string>{"_b", "_a"}));
+}
+
+TEST(MembersTest, StatedOrderIsNotThatOfDerivedClasses)
+{
+    EXPECT_EQ(getKeys<DerivedFromReordered>(), (std::vector<std::string>{"_d", "_e", "_f"}));
+}
+
+TEST(MembersTest, StatedOrderHasOnePlaceForEachMember)
+{
+    using MembersDetails::isPermutation;
+    using Three = MembersOf<Reordered>;
+    static_assert(isPermutation(Three{}, std::index_sequence<0, 1, 2>()));
+    static_assert(isPermutation(Three{}, std::index_sequence<2, 0, 1>()));
+    static_assert(!isPermutation(Three{}, std::index_sequence<0, 1>()));
+    static_assert(!isPermutation(Three{}, std::index_sequence<0, 1, 1>()));
+    static_assert(!isPermutation(Three{}, std::index_sequence<0, 1, 3>()));
+    static_assert(!isPermutation(Three{}, std::index_sequence<0, 1, 2, 2>()));
+    static_assert(isPermutation(MembersOf<First>{}, std::index_sequence<>()));
 }
 
 TEST(MembersTest, WalkEndsAtTheFirstRefusal)
