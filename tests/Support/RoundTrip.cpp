@@ -1,7 +1,10 @@
 #include "Support/RoundTrip.h"
 
 #include <algorithm>
+#include <array>
 #include <random>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "Utils/Public/Archive/RapidJSON.h"
@@ -79,6 +82,29 @@ void forEachObject(Value& value, const std::function<void(Value& object)>& visit
     }
 }
 
+/// Walks all values below the root in one order.
+void forEachValue(Value& value, const std::function<void(Value& inner)>& visit)
+{
+    if (value.IsArray()) {
+        for (Value& element : value.GetArray()) {
+            visit(element);
+            forEachValue(element, visit);
+        }
+    } else if (value.IsObject()) {
+        for (auto& member : value.GetObject()) {
+            visit(member.value);
+            forEachValue(member.value, visit);
+        }
+    }
+}
+
+constexpr std::array<const char*, 22> Replacements{
+    "null",       "true",       "false",      "0",          "1",
+    "-1",         "127",        "256",        "2147483648", "-2147483649",
+    "4294967295", "3221225473", "2147483649", "1073741824", "18446744073709551615",
+    "1.5",        "NaN",        "-Infinity",  R"("")",      R"("QN")",
+    "[]",         "{}"};
+
 } // namespace
 
 std::string shuffleMembers(const std::string& json, unsigned seed)
@@ -111,6 +137,48 @@ void forEachMissingMember(const std::string& json,
         });
         visit(write(document), key);
     }
+}
+
+void forEachReplacedValue(const std::string& json, const std::function<void(const std::string& text)>& visit)
+{
+    std::size_t count = 0;
+    rapidjson::Document whole = parse(json);
+    forEachValue(whole, [&](Value&) { ++count; });
+    for (std::size_t replaced = 0; replaced < count; ++replaced) {
+        for (const char* const replacement : Replacements) {
+            rapidjson::Document document = parse(json);
+            const rapidjson::Document other = parse(replacement);
+            std::size_t passed = 0;
+            Value* target = nullptr;
+            forEachValue(document, [&](Value& value) {
+                if (passed++ == replaced) {
+                    target = &value;
+                }
+            });
+            target->CopyFrom(other, document.GetAllocator());
+            visit(write(document));
+        }
+    }
+}
+
+bool isStatedLoadError(const std::string& message)
+{
+    constexpr std::array<std::string_view, 12> Beginnings{
+        "JSON Parsing failed - provided NVP (",
+        "rapidjson internal assertion failure: ",
+        "Trying to load an unregistered polymorphic type (",
+        "Trying to load a registered polymorphic type with an unregistered polymorphic cast.",
+        "Error while trying to deserialize a polymorphic pointer. Could not find type id ",
+        "Cannot load a polymorphic type that is not default constructable and does not have a "
+        "load_and_construct function",
+        "Error while trying to deserialize a smart pointer. Could not find id ",
+        "Invalid 'which' selector when deserializing boost::variant",
+        "Error traversing variant during load",
+        "Invalid Iterator Type!",
+        "Malformed UUID: ",
+        "Nesting limit of "};
+    return std::any_of(Beginnings.begin(), Beginnings.end(),
+                       [&](std::string_view beginning) { return message.starts_with(beginning); });
 }
 
 } // namespace QN::Test

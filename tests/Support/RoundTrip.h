@@ -25,6 +25,13 @@ std::string shuffleMembers(const std::string& json, unsigned seed);
 void forEachMissingMember(const std::string& json,
                           const std::function<void(const std::string& text, const std::string& key)>& visit);
 
+/// Calls `visit(text)` with each value at any level replaced by a value of each kind: numbers at the limits of types, texts,
+/// empty and full containers.
+void forEachReplacedValue(const std::string& json, const std::function<void(const std::string& text)>& visit);
+
+/// Whether loading a text may end with this message, whatever the class.
+bool isStatedLoadError(const std::string& message);
+
 /// Whether a class writes its own keys into the root object; other values are written under the key "object".
 template <class T>
 concept HasKeys = requires(T& value, cereal::JSONInputArchive& archive)

@@ -129,6 +129,18 @@ public:
     BOOST_DESCRIBE_CLASS(Stranger, (Item), (), (), ())
 };
 
+/// Of the family and registered as "Test::Stray", but not related to the root.
+class Stray final : public Reflectable<Item> {
+public:
+    QN_SERIALIZE(Stray)
+    void cloneTo(std::shared_ptr<Item>& target) const override { target = std::make_shared<Stray>(*this); }
+    void cloneTo(std::unique_ptr<Item>& target) const override { target = std::make_unique<Stray>(*this); }
+    void accept(Visitor&) override {}
+    void accept(ConstVisitor&) const override {}
+
+    BOOST_DESCRIBE_CLASS(Stray, (Item), (), (), ())
+};
+
 class Striped;
 class Flat;
 

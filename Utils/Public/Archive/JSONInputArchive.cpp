@@ -2,6 +2,7 @@
 
 #include <boost/unordered/unordered_flat_map.hpp>
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <charconv>
@@ -38,10 +39,10 @@ struct Frame {
 
 namespace {
 
-constexpr std::uint32_t FirstOccurrence = 0x80000000U;
 constexpr std::uint32_t IsStaticType = 0x40000000U;
-constexpr std::uint32_t IdMask = ~FirstOccurrence;
+constexpr std::uint32_t IdMask = ~detail::FirstOccurrence;
 
+using detail::FirstOccurrence;
 using detail::Frame;
 using detail::TapeNode;
 using detail::TypeEntry;
@@ -197,10 +198,12 @@ void JSONInputArchive::leave()
     _impl->frames.pop_back();
 }
 
-bool JSONInputArchive::isPositiveBeyondInt64() const
+bool JSONInputArchive::isWideInteger() const
 {
-    return _impl->current->kind == TapeNode::Kind::NonNegative &&
-           !std::in_range<std::int64_t>(_impl->current->payload);
+    const TapeNode& node = *_impl->current;
+    return (node.kind == TapeNode::Kind::NonNegative && !std::in_range<std::int32_t>(node.payload)) ||
+           (node.kind == TapeNode::Kind::Negative &&
+            !std::in_range<std::int32_t>(static_cast<std::int64_t>(node.payload)));
 }
 
 void JSONInputArchive::loadValue(bool& value)
@@ -327,7 +330,8 @@ JSONInputArchive::PolymorphicType JSONInputArchive::readPolymorphicType(const st
             return {entry->binding, &chain};
         }
     }
-    entry->chains.emplace_front(&base, detail::PolymorphicCasters::lookup(base, *entry->binding->type));
+    entry->chains.emplace_front(
+        &base, detail::PolymorphicCasters::lookup(base, *entry->binding->type, detail::CastPurpose::Load));
     return {entry->binding, &entry->chains.front().second};
 }
 

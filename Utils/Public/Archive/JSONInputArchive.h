@@ -1,5 +1,14 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
+#include <iosfwd>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <typeinfo>
+#include <vector>
+
 #include "Utils/Public/Archive/JSONOutputArchive.h"
 
 namespace cereal {
@@ -68,8 +77,8 @@ public:
     /// @return the number of elements. @throws RapidJSONException "rapidjson internal assertion failure: IsArray()"
     std::size_t enterArray();
     void leave();
-    /// Whether the current value is an integer that only an unsigned 64-bit number holds.
-    bool isPositiveBeyondInt64() const;
+    /// Whether the current value is an integer that takes more than 32 bits with a sign.
+    bool isWideInteger() const;
 
     // Values. A number outside the type's range, or of another JSON type, raises RapidJSONException.
 

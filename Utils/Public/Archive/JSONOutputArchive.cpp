@@ -8,7 +8,6 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <exception>
 #include <ostream>
 
 #include "Utils/Public/Archive/JSONText.h"
@@ -35,7 +34,6 @@ struct JSONOutputArchive::Tracking {
 
 namespace {
 
-constexpr std::uint32_t FirstOfItsKind = 0x80000000U;
 constexpr std::size_t NumberSize = 32;
 
 /// For each byte below 0x80 what follows the backslash in a string: 0 for nothing to escape, 'u' for a code.
@@ -111,7 +109,7 @@ JSONOutputArchive::~JSONOutputArchive()
         flush();
         _stream.write(_buffer.get(), static_cast<std::streamsize>(_size));
         _stream.flush();
-    } catch (const std::exception&) {
+    } catch (...) {
         // The stream reports its failure through its own state.
     }
 }
@@ -224,7 +222,7 @@ JSONOutputArchive::SharedId JSONOutputArchive::findShared(const void* address, c
     }
     const auto number = static_cast<std::uint32_t>(_tracking->sharedIds.size() + 1);
     const auto [entry, isNew] = _tracking->sharedIds.try_emplace({address, &type}, number);
-    return {isNew ? entry->second | FirstOfItsKind : entry->second, isNew};
+    return {isNew ? entry->second | detail::FirstOccurrence : entry->second, isNew};
 }
 
 void JSONOutputArchive::keepAlive(std::shared_ptr<const void> object)
@@ -250,16 +248,18 @@ const OutputTypeEntry& JSONOutputArchive::writePolymorphicType(const std::type_i
                 "CEREAL_REGISTER_TYPE.\nIf your type is already registered and you still see this error, you "
                 "may need to use CEREAL_REGISTER_DYNAMIC_INIT.");
         }
-        OutputTypeEntry made{&binding->second, static_cast<std::uint32_t>(_tracking->types.size() + 1), &base,
-                             detail::PolymorphicCasters::lookup(base, dynamicType)};
+        OutputTypeEntry made{
+            &binding->second, static_cast<std::uint32_t>(_tracking->types.size() + 1), &base,
+            detail::PolymorphicCasters::lookup(base, dynamicType, detail::CastPurpose::Save)};
         entry = _tracking->types.emplace(&dynamicType, std::move(made)).first;
     } else if (entry->second.base != &base) {
-        entry->second.chain = detail::PolymorphicCasters::lookup(base, dynamicType);
+        entry->second.chain =
+            detail::PolymorphicCasters::lookup(base, dynamicType, detail::CastPurpose::Save);
         entry->second.base = &base;
     }
     const std::uint32_t id = entry->second.id;
     writeKey("polymorphic_id");
-    saveValue(static_cast<std::uint64_t>(isFirst ? id | FirstOfItsKind : id));
+    saveValue(static_cast<std::uint64_t>(isFirst ? id | detail::FirstOccurrence : id));
     if (isFirst) {
         writeKey("polymorphic_name");
         saveValue(std::string_view(entry->second.binding->name->getName()));

@@ -30,6 +30,13 @@ namespace cereal {
 
 struct OutputTypeEntry;
 
+namespace detail {
+
+/// Set in the number of an object or a type where it occurs for the first time, and is written out.
+inline constexpr std::uint32_t FirstOccurrence = 0x80000000U;
+
+} // namespace detail
+
 /// The most JSON values that may stand inside each other where saving or loading follows them by recursion. Formula
 /// trees are followed without recursion and are not limited.
 inline constexpr std::size_t DefaultNestingLimit = 4096;
@@ -42,7 +49,8 @@ inline constexpr std::size_t DefaultNestingLimit = 4096;
 class DOM_API JSONOutputArchive {
 public:
     struct Options {
-        /// The most digits behind the decimal point; by default as many as it takes to read the same number back.
+        /// The most digits behind the decimal point, at least 1; by default as many as it takes to read the same
+        /// number back. Further ones are cut off and not rounded. A number with an exponent keeps all its digits.
         int decimalPlaces = 324;
         std::size_t nestingLimit = DefaultNestingLimit;
     };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cmath>
+#include <concepts>
 #include <cstdint>
 #include <limits>
 #include <string>
@@ -71,23 +72,26 @@ struct Persist<bool> {
     static void load(cereal::JSONInputArchive& archive, bool& value) { archive.loadValue(value); }
 };
 
-/// Integers are plain numbers; one outside its type's range raises `RapidJSONException`.
+/// Integers are plain numbers; one outside its type's range raises `RapidJSONException`. A `char` is a number of a
+/// `signed char` also where it has no sign, so that files do not depend on the platform.
 template <std::integral T>
 struct Persist<T> {
-    using Widest = std::conditional_t<std::is_signed_v<T>, std::int64_t, std::uint64_t>;
-    using Read = std::conditional_t<sizeof(T) == 8, Widest,
-                                    std::conditional_t<std::is_signed_v<T>, std::int32_t, std::uint32_t>>;
+    using Number = std::conditional_t<std::is_same_v<T, char>, signed char, T>;
+    using Widest = std::conditional_t<std::is_signed_v<Number>, std::int64_t, std::uint64_t>;
+    using Read =
+        std::conditional_t<sizeof(Number) == 8, Widest,
+                           std::conditional_t<std::is_signed_v<Number>, std::int32_t, std::uint32_t>>;
 
     static void save(cereal::JSONOutputArchive& archive, T value)
     {
-        archive.saveValue(static_cast<Widest>(value));
+        archive.saveValue(static_cast<Widest>(static_cast<Number>(value)));
     }
 
     static void load(cereal::JSONInputArchive& archive, T& value)
     {
         Read read = 0;
         archive.loadValue(read);
-        if (!std::in_range<std::conditional_t<std::is_same_v<T, char>, signed char, T>>(read)) {
+        if (!std::in_range<Number>(read)) {
             archive.throwOutOfRange();
         }
         value = static_cast<T>(read);

@@ -2,9 +2,11 @@
 
 #include <boost/smart_ptr/intrusive_ptr.hpp>
 
+#include <cstdint>
 #include <memory>
 #include <type_traits>
 #include <typeinfo>
+#include <utility>
 #include <vector>
 
 #include "Utils/Public/Archive/Persist.h"
@@ -21,8 +23,6 @@ template <class T>
 concept FamilyMember = std::is_base_of_v<ClonableBase, T>;
 
 namespace PersistDetails {
-
-inline constexpr std::uint32_t FirstOccurrence = 0x80000000U;
 
 /// "ptr_wrapper" with "valid" and "data".
 template <class T>
@@ -139,7 +139,7 @@ struct Persist<std::shared_ptr<T>> {
         archive.seek("ptr_wrapper");
         archive.enterObject();
         archive.member("id", id);
-        if ((id & PersistDetails::FirstOccurrence) != 0) {
+        if ((id & cereal::detail::FirstOccurrence) != 0) {
             auto object = std::make_shared<Object>();
             archive.member("data", *object);
             archive.addShared(id, object, typeid(Object));
@@ -215,7 +215,7 @@ struct Persist<boost::intrusive_ptr<T>> {
         std::uint32_t id = 0;
         archive.enterObject();
         archive.member("id", id);
-        if ((id & PersistDetails::FirstOccurrence) != 0) {
+        if ((id & cereal::detail::FirstOccurrence) != 0) {
             archive.seek("value0");
             const boost::intrusive_ptr<Object> object(
                 PersistDetails::loadPlainPointer<Object>(archive).release());

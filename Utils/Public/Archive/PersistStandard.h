@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <string>
 #include <utility>
 #include <vector>
@@ -16,6 +17,19 @@
 /// Pairs, optionals, variants and containers.
 
 namespace QN {
+
+namespace PersistDetails {
+
+/// Makes room for the elements of an array, up to a mebibyte before any of them was read: an element may take a
+/// thousand times the bytes that a malformed text spends on it.
+template <class Container>
+void reserveForLoad(Container& container, std::size_t size)
+{
+    constexpr std::size_t Largest = (std::size_t{1} << 20U) / sizeof(typename Container::value_type) + 1;
+    container.reserve(std::min(size, Largest));
+}
+
+} // namespace PersistDetails
 
 /// An object with the keys "first" and "second".
 template <class First, class Second>
@@ -137,7 +151,7 @@ struct Persist<T> {
     {
         const std::size_t size = archive.enterArray();
         value.clear();
-        value.reserve(size);
+        PersistDetails::reserveForLoad(value, size);
         for (std::size_t index = 0; index < size; ++index) {
             archive.unnamed(value.emplace_back());
         }
@@ -200,7 +214,7 @@ struct Persist<T> {
         const std::size_t size = archive.enterArray();
         value.clear();
         if constexpr (requires { value.reserve(size); }) {
-            value.reserve(size);
+            PersistDetails::reserveForLoad(value, size);
         }
         for (std::size_t index = 0; index < size; ++index) {
             typename T::key_type key{};

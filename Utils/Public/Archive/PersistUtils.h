@@ -62,12 +62,10 @@ struct Persist<BoolOpt> {
         value = boost::none;
         archive.enterObject();
         archive.seek("value");
-        if (archive.isPositiveBeyondInt64()) {
-            archive.leave();
-            return;
+        std::int32_t state = -1;
+        if (!archive.isWideInteger()) {
+            archive.loadValue(state);
         }
-        std::int64_t state = -1;
-        archive.loadValue(state);
         if (state == 0 || state == 1) {
             value = state == 1;
         }

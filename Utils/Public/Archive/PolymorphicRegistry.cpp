@@ -3,6 +3,7 @@
 #include <boost/core/demangle.hpp>
 
 #include <algorithm>
+#include <string>
 
 namespace cereal::detail {
 
@@ -12,12 +13,13 @@ void TypeNameProviderBase::setName(const std::type_info& type, const char* name)
     StaticObject<TypeNameMap>::getInstance().map.emplace(name, type);
 }
 
-CasterChain PolymorphicCasters::lookup(const std::type_info& base, const std::type_info& derived)
+CasterChain PolymorphicCasters::lookup(const std::type_info& base, const std::type_info& derived,
+                                       CastPurpose purpose)
 {
     CasterChain chain;
     if (base != derived &&
         !StaticObject<PolymorphicCasters>::getInstance().lookupImpl(base, derived, chain)) {
-        throwUnregisteredPolymorphicCastException(base, derived);
+        throwUnregisteredPolymorphicCastException(base, derived, purpose);
     }
     return chain;
 }
@@ -29,9 +31,16 @@ bool PolymorphicCasters::lookupImpl(const std::type_info& base, const std::type_
     if (relations == _derivedByBase.end()) {
         return false;
     }
+    // A class that is related to the base directly and through another one is cast in one step.
+    for (const Relation& relation : relations->second) {
+        if (*relation.derived == derived) {
+            chain.push_back(relation.caster);
+            return true;
+        }
+    }
     for (const Relation& relation : relations->second) {
         chain.push_back(relation.caster);
-        if (*relation.derived == derived || lookupImpl(*relation.derived, derived, chain)) {
+        if (lookupImpl(*relation.derived, derived, chain)) {
             return true;
         }
         chain.pop_back();
@@ -54,9 +63,11 @@ void* PolymorphicCasters::upcastImpl(const CasterChain& chain, void* derived)
     return derived;
 }
 
-void throwUnregisteredPolymorphicCastException(const std::type_info& base, const std::type_info& derived)
+void throwUnregisteredPolymorphicCastException(const std::type_info& base, const std::type_info& derived,
+                                               CastPurpose purpose)
 {
-    throw Exception("Trying to load a registered polymorphic type with an unregistered polymorphic cast.\n"
+    throw Exception(std::string("Trying to ") + (purpose == CastPurpose::Save ? "save" : "load") +
+                    " a registered polymorphic type with an unregistered polymorphic cast.\n"
                     "Could not find a path to a base class (" +
                     boost::core::demangle(base.name()) +
                     ") for type: " + boost::core::demangle(derived.name()));

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <boost/unordered/unordered_flat_map.hpp>
+#include <cereal/details/static_object.hpp>
 
+#include <cstdint>
 #include <memory>
 #include <string_view>
 #include <typeindex>
@@ -85,11 +87,14 @@ public:
 /// The casters from a base down to a derived class.
 using CasterChain = std::vector<const PolymorphicCaster*>;
 
+/// What a pointer is cast for. The message about a missing relation tells it.
+enum class CastPurpose : std::uint8_t { Save = 0, Load = 1 };
+
 class DOM_API PolymorphicCasters {
 public:
     /// @return the chain between two types, empty for one and the same type.
     /// @throws Exception when the types are not related.
-    static CasterChain lookup(const std::type_info& base, const std::type_info& derived);
+    static CasterChain lookup(const std::type_info& base, const std::type_info& derived, CastPurpose purpose);
     static const void* downcastImpl(const CasterChain& chain, const void* base);
     static void* upcastImpl(const CasterChain& chain, void* derived);
 
@@ -108,7 +113,8 @@ private:
 };
 
 [[noreturn]] DOM_API void throwUnregisteredPolymorphicCastException(const std::type_info& base,
-                                                                    const std::type_info& derived);
+                                                                    const std::type_info& derived,
+                                                                    CastPurpose purpose);
 
 /// Enters the caster of a pair of directly related classes.
 DOM_API void polymorphicVirtualCasterInit(PolymorphicCaster* caster, const std::type_info& base,

@@ -156,6 +156,20 @@ TEST(JSONOutputArchiveTest, DecimalPlacesAreAnOption)
     EXPECT_EQ(toText(12345, {.decimalPlaces = 1}), "12345");
 }
 
+TEST(JSONOutputArchiveTest, DigitsBeyondTheDecimalPlacesAreCutOffAndNotRounded)
+{
+    EXPECT_EQ(toText(0.999, {.decimalPlaces = 2}), "0.99");
+    EXPECT_EQ(toText(-1.999, {.decimalPlaces = 1}), "-1.9");
+    EXPECT_EQ(toText(0.0999, {.decimalPlaces = 1}), "0.0");
+    EXPECT_EQ(toText(9e-7, {.decimalPlaces = 3}), "0.0");
+}
+
+TEST(JSONOutputArchiveTest, NumberWithAnExponentKeepsAllItsDigits)
+{
+    EXPECT_EQ(toText(1.2345e25, {.decimalPlaces = 1}), "1.2345e25");
+    EXPECT_EQ(toText(1.2345e-8, {.decimalPlaces = 10}), "1.2345e-8");
+}
+
 TEST(JSONOutputArchiveTest, TextIsCompleteOnceTheArchiveIsDestroyed)
 {
     std::ostringstream stream;
@@ -271,6 +285,20 @@ TEST(JSONOutputArchiveTest, ExceptionOfTheStreamPassesThroughButNotOutOfTheDestr
         archive(1);
         EXPECT_THROW(archive(std::vector<std::string>(10, std::string(50000, 'x'))), std::ios_base::failure);
     }
+    {
+        JSONOutputArchive archive(stream);
+    }
+    EXPECT_TRUE(stream.bad());
+}
+
+TEST(JSONOutputArchiveTest, NothingThatAStreamThrowsLeavesTheDestructor)
+{
+    struct Thrower : std::streambuf {
+        std::streamsize xsputn(const char*, std::streamsize) override { throw 7; }
+    };
+    Thrower thrower;
+    std::ostream stream(&thrower);
+    stream.exceptions(std::ios_base::badbit);
     {
         JSONOutputArchive archive(stream);
     }

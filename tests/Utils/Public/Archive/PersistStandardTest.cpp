@@ -3,10 +3,14 @@
 #include <boost/container/map.hpp>
 #include <boost/container/set.hpp>
 #include <boost/container/vector.hpp>
+#include <boost/describe/class.hpp>
+#include <boost/unordered/unordered_flat_map.hpp>
 #include <boost/unordered_map.hpp>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <map>
 #include <memory>
 #include <set>
@@ -27,6 +31,33 @@ using Variant = boost::variant<int, std::string, std::vector<int>>;
 
 struct Descending {
     bool operator()(int left, int right) const { return left > right; }
+};
+
+/// Takes a kilobyte, of which a malformed text states two bytes.
+struct Bulky {
+    std::array<char, 1024> bytes{};
+    int _number = 0;
+    BOOST_DESCRIBE_CLASS(Bulky, (), (_number), (), ())
+};
+
+/// Knows the most elements that were asked for at once.
+template <class T>
+struct WatchfulAllocator {
+    using value_type = T;
+    static inline std::size_t most = 0;
+
+    WatchfulAllocator() = default;
+    template <class Other>
+    WatchfulAllocator(const WatchfulAllocator<Other>&)
+    {
+    }
+    T* allocate(std::size_t count)
+    {
+        most = std::max(most, count);
+        return std::allocator<T>().allocate(count);
+    }
+    void deallocate(T* elements, std::size_t count) { std::allocator<T>().deallocate(elements, count); }
+    friend bool operator==(const WatchfulAllocator&, const WatchfulAllocator&) { return true; }
 };
 
 const std::string NegativeSelector = "Error traversing variant during load";
@@ -141,6 +172,25 @@ TEST(PersistStandardTest, SequenceIsAnArray)
     expectText(boost::container::vector<int>{3, 1}, "[3,1]");
 }
 
+TEST(PersistStandardTest, MemoryForASequenceIsNotClaimedBeforeItsElementsAreRead)
+{
+    constexpr std::size_t Count = 200000;
+    std::string zeros = "[0";
+    std::string objects = R"([{"_number":0})";
+    for (std::size_t element = 1; element < Count; ++element) {
+        zeros += ",0";
+        objects += R"(,{"_number":)" + std::to_string(element) + "}";
+    }
+    using Bulkies = std::vector<Bulky, WatchfulAllocator<Bulky>>;
+    EXPECT_EQ(typeError<Bulkies>(zeros + "]"), "IsObject()");
+    EXPECT_LE(WatchfulAllocator<Bulky>::most * sizeof(Bulky), 2U << 20U);
+    EXPECT_EQ((typeError<boost::unordered_map<int, Bulky>>(zeros + "]")), "IsObject()");
+
+    const auto loaded = fromText<std::vector<Bulky>>(objects + "]");
+    ASSERT_EQ(loaded.size(), Count);
+    EXPECT_EQ(loaded.back()._number, static_cast<int>(Count) - 1);
+}
+
 TEST(PersistStandardTest, ArrayOfFixedSizeIsAnArrayOfThatSize)
 {
     expectText(std::array<int, 3>{3, 1, 2}, "[3,1,2]");
@@ -176,6 +226,30 @@ TEST(PersistStandardTest, UnorderedMapIsAnArrayOfKeysAndValues)
         many[key] = key * key;
     }
     EXPECT_EQ((fromText<boost::unordered_map<int, int>>(toText(many))), many);
+}
+
+template <class Map>
+class PersistHashMapTest : public testing::Test {
+};
+
+using HashMaps = testing::Types<boost::unordered_map<int, int>, boost::unordered_flat_map<int, int>,
+                                std::unordered_map<int, int>>;
+TYPED_TEST_SUITE(PersistHashMapTest, HashMaps);
+
+TYPED_TEST(PersistHashMapTest, IsWrittenInTheOrderOfItsKeysHoweverItWasMade)
+{
+    std::string text = "[";
+    TypeParam ascending;
+    TypeParam descending;
+    descending.reserve(5000);
+    for (int key = -50; key < 50; ++key) {
+        text += (key == -50 ? "" : ",") + (R"({"key":)" + std::to_string(key)) + R"(,"value":)" +
+                std::to_string(key * key) + "}";
+        ascending.emplace(key, key * key);
+        descending.emplace(-1 - key, (-1 - key) * (-1 - key));
+    }
+    expectText(ascending, text + "]");
+    expectText(descending, text + "]");
 }
 
 TEST(PersistStandardTest, FirstOfTwoEntriesWithOneKeyStays)

@@ -1,6 +1,5 @@
 #include "Utils/Public/Archive/PolymorphicRegistry.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <string>
@@ -14,9 +13,6 @@ namespace {
 
 using namespace cereal::detail;
 using namespace QN::Test;
-using testing::AllOf;
-using testing::HasSubstr;
-using testing::StartsWith;
 
 /// The type that a name stands for.
 const std::type_info* findType(const char* name)
@@ -33,15 +29,23 @@ const std::type_info* findType(const char* name)
 void expectCastError(const std::type_info& base, const char* baseName, const std::type_info& derived,
                      const char* derivedName)
 {
-    try {
-        PolymorphicCasters::lookup(base, derived);
-        ADD_FAILURE() << baseName << ", " << derivedName;
-    } catch (const cereal::Exception& error) {
-        EXPECT_THAT(error.what(),
-                    AllOf(StartsWith("Trying to load a registered polymorphic type with an unregistered "
-                                     "polymorphic cast."),
-                          HasSubstr(baseName), HasSubstr(derivedName)));
+    for (const CastPurpose purpose : {CastPurpose::Save, CastPurpose::Load}) {
+        try {
+            PolymorphicCasters::lookup(base, derived, purpose);
+            ADD_FAILURE() << baseName << ", " << derivedName;
+        } catch (const cereal::Exception& error) {
+            EXPECT_EQ(error.what(),
+                      std::string("Trying to ") + (purpose == CastPurpose::Save ? "save" : "load") +
+                          " a registered polymorphic type with an unregistered polymorphic cast.\n"
+                          "Could not find a path to a base class (" +
+                          baseName + ") for type: " + derivedName);
+        }
     }
+}
+
+CasterChain lookUp(const std::type_info& base, const std::type_info& derived)
+{
+    return PolymorphicCasters::lookup(base, derived, CastPurpose::Load);
 }
 
 TEST(PolymorphicRegistryTest, NameIsTheOneGivenAtRegistrationAndNotThatOfTheClass)
@@ -83,18 +87,18 @@ TEST(PolymorphicRegistryTest, OutputBindingKnowsTheName)
 
 TEST(PolymorphicRegistryTest, ChainLeadsThroughTheClassesBetweenTwoTypes)
 {
-    EXPECT_EQ(PolymorphicCasters::lookup(typeid(Item), typeid(Item)).size(), 0U);
-    EXPECT_EQ(PolymorphicCasters::lookup(typeid(Dot), typeid(Dot)).size(), 0U);
-    EXPECT_EQ(PolymorphicCasters::lookup(typeid(Item), typeid(Word)).size(), 1U);
-    EXPECT_EQ(PolymorphicCasters::lookup(typeid(Mark), typeid(Dot)).size(), 1U);
-    EXPECT_EQ(PolymorphicCasters::lookup(typeid(Item), typeid(Dot)).size(), 2U);
+    EXPECT_EQ(lookUp(typeid(Item), typeid(Item)).size(), 0U);
+    EXPECT_EQ(lookUp(typeid(Dot), typeid(Dot)).size(), 0U);
+    EXPECT_EQ(lookUp(typeid(Item), typeid(Word)).size(), 1U);
+    EXPECT_EQ(lookUp(typeid(Mark), typeid(Dot)).size(), 1U);
+    EXPECT_EQ(lookUp(typeid(Item), typeid(Dot)).size(), 2U);
 }
 
 TEST(PolymorphicRegistryTest, ChainCastsDownAndUp)
 {
     Dot dot;
     ASSERT_NE(static_cast<void*>(static_cast<Item*>(&dot)), static_cast<void*>(&dot));
-    const auto chain = PolymorphicCasters::lookup(typeid(Item), typeid(Dot));
+    const auto chain = lookUp(typeid(Item), typeid(Dot));
     EXPECT_EQ(PolymorphicCasters::downcastImpl(chain, static_cast<const Item*>(&dot)), &dot);
     EXPECT_EQ(PolymorphicCasters::upcastImpl(chain, &dot), static_cast<Item*>(&dot));
 }
@@ -104,7 +108,7 @@ TEST(PolymorphicRegistryTest, CastToASecondBaseMovesThePointer)
     Group group;
     QN::UUIDable* const base = &group;
     ASSERT_NE(static_cast<void*>(base), static_cast<void*>(&group));
-    const auto chain = PolymorphicCasters::lookup(typeid(QN::UUIDable), typeid(Group));
+    const auto chain = lookUp(typeid(QN::UUIDable), typeid(Group));
     EXPECT_EQ(PolymorphicCasters::upcastImpl(chain, &group), base);
     EXPECT_EQ(PolymorphicCasters::downcastImpl(chain, base), &group);
 }
@@ -115,7 +119,8 @@ TEST(PolymorphicRegistryTest, MissingRelationIsReportedWithBothNames)
     expectCastError(typeid(Word), "QN::Test::Word", typeid(Item), "QN::Test::Item");
     expectCastError(typeid(Item), "QN::Test::Item", typeid(Stranger), "QN::Test::Stranger");
     expectCastError(typeid(QN::UUIDable), "QN::UUIDable", typeid(Word), "QN::Test::Word");
-    EXPECT_THROW(throwUnregisteredPolymorphicCastException(typeid(Item), typeid(Flat)), cereal::Exception);
+    EXPECT_THROW(throwUnregisteredPolymorphicCastException(typeid(Item), typeid(Flat), CastPurpose::Save),
+                 cereal::Exception);
 }
 
 } // namespace
