@@ -1,7 +1,5 @@
 #include "DOM/DOM_ColorMap.h"
 
-#include <map>
-
 #include "Utils/Public/ClassScheme/Define.h"
 
 namespace QN::DOM {
@@ -20,16 +18,6 @@ void ColorMap::setMapping(ThemeColorId id, ThemeColorId target)
     _map.insert_or_assign(id, target);
 }
 
-QN_DEFINE_EQUALITY(ColorMap)
-
-void ColorMap::serialize(cereal::JSONOutputArchive& archive) const
-{
-    archive.member("_map", std::map<ThemeColorId, ThemeColorId>(_map.begin(), _map.end()));
-}
-
-void ColorMap::serialize(cereal::JSONInputArchive& archive)
-{
-    loadMembers(archive, *this);
-}
+QN_DEFINE_VALUE(ColorMap)
 
 } // namespace QN::DOM

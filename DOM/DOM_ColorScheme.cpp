@@ -1,7 +1,5 @@
 #include "DOM/DOM_ColorScheme.h"
 
-#include <map>
-
 #include "Utils/Public/Assert.h"
 #include "Utils/Public/ClassScheme/Define.h"
 
@@ -19,17 +17,6 @@ void ColorScheme::setColor(ThemeColorId id, Color color)
     _colors.insert_or_assign(id, std::move(color));
 }
 
-QN_DEFINE_EQUALITY(ColorScheme)
-
-void ColorScheme::serialize(cereal::JSONOutputArchive& archive) const
-{
-    archive.member("_name", _name);
-    archive.member("_colors", std::map<ThemeColorId, Color>(_colors.begin(), _colors.end()));
-}
-
-void ColorScheme::serialize(cereal::JSONInputArchive& archive)
-{
-    loadMembers(archive, *this);
-}
+QN_DEFINE_VALUE(ColorScheme)
 
 } // namespace QN::DOM
