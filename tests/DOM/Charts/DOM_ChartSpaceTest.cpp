@@ -6,8 +6,8 @@
 #include "DOM/Charts/KindSamples.h"
 #include "DOM/DOM_DrawingRun.h"
 #include "DOM/DOM_Paragraph.h"
-#include "DOM/FormulaSyntaxTree/SmallStack.h"
 #include "DOM/Shapes/DOM_Picture.h"
+#include "Support/SmallStack.h"
 
 namespace QN::DOM::ChartSpaceTest {
 namespace {

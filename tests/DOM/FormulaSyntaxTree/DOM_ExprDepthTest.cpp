@@ -4,8 +4,8 @@
 
 #include "DOM/FormulaSyntaxTree/DOM_ExprTransformations.h"
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
-#include "DOM/FormulaSyntaxTree/SmallStack.h"
 #include "DOM/Tables/DOM_Formula.h"
+#include "Support/SmallStack.h"
 
 /// Depth is data: trees of a million nodes on a stack of half a megabyte.
 

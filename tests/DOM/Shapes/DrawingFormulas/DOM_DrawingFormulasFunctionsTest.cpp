@@ -4,9 +4,9 @@
 
 #include <random>
 
-#include "DOM/FormulaSyntaxTree/SmallStack.h"
 #include "DOM/Shapes/DrawingFormulas/DOM_DrawingFormulasFormulasMap.h"
 #include "DOM/Shapes/DrawingFormulas/ExpressionSamples.h"
+#include "Support/SmallStack.h"
 
 namespace QN::DOM::DrawingFormulas::DrawingFormulasFunctionsTest {
 namespace {
