@@ -136,6 +136,20 @@ TEST(DOM_MergedCellsCache, NeverNarrowsARangeByARemovalInsideIt)
     EXPECT_EQ(cache.getMergedRanges(), (std::vector{makeRange(2, 6, 2, 6)}));
 }
 
+TEST(DOM_MergedCellsCache, LeavesARangeThatEndsAtTheLargestIndexWhereItIs)
+{
+    constexpr std::uint64_t Last = ~std::uint64_t{0};
+    auto cache = makeCache({makeRange(0, Last, 0, 2), makeRange(0, 2, 3, Last - 1)});
+    cache.insertRow(RowIndex(0));
+    EXPECT_EQ(cache.getMergedRanges(), (std::vector{makeRange(0, Last, 0, 2), makeRange(1, 3, 3, Last - 1)}));
+    cache.insertColumn(ColumnIndex(0));
+    cache.insertColumn(ColumnIndex(0));
+    EXPECT_EQ(cache.getMergedRanges(), (std::vector{makeRange(0, Last, 2, 4), makeRange(1, 3, 4, Last)}));
+    cache.removeRow(RowIndex(0));
+    cache.removeColumn(ColumnIndex(0));
+    EXPECT_EQ(cache.getMergedRanges(), (std::vector{makeRange(0, 2, 3, Last - 1)}));
+}
+
 TEST(DOM_MergedCellsCache, AnswersTheLastRowAndColumnOfAllRanges)
 {
     EXPECT_EQ(MergedCellsCache().getBottomRightCellIndex(), makeIndex(0, 0));

@@ -124,6 +124,16 @@ TEST(DOM_PivotTablesCache, MovesAreasFromARemovalButNotOneRootedOnIt)
     EXPECT_EQ(cache.getPivotRanges(), (std::vector{makeRange(4, 6, 5, 8), makeRange(4, 6, 8, 11)}));
 }
 
+TEST(DOM_PivotTablesCache, LeavesAnAreaThatEndsAtTheLargestIndexWhereItIs)
+{
+    constexpr std::uint64_t Last = ~std::uint64_t{0};
+    auto cache = makeCache({makeIndex(Last - 2, Last - 4)});
+    cache.insertRow(RowIndex(0));
+    cache.insertColumn(ColumnIndex(0));
+    cache.insertColumn(ColumnIndex(0));
+    EXPECT_EQ(cache.getPivotRanges(), (std::vector{makeRange(Last - 2, Last, Last - 3, Last)}));
+}
+
 TEST(DOM_PivotTablesCache, AnswersTheLastRowAndColumnOfAllAreas)
 {
     EXPECT_EQ(PivotTablesCache().getBottomRightCellIndex(), makeIndex(0, 0));

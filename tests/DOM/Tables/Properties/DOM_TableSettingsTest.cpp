@@ -30,6 +30,11 @@ TEST(DOM_TableSettings, WriteWhatWasSet)
         settings,
         R"({"_showZeroValue":false,"_groupingProps":{"_isSummaryBelow":true,"_isSummaryRight":false}})");
     expectCopiesAndMoves(settings);
+    EXPECT_EQ(with<TableSettings>([&](auto& changed) {
+                  changed.setShowZeroValue(false);
+                  changed.setGroupingProps(settings.getGroupingProps());
+              }),
+              settings);
 }
 
 TEST(DOM_TableSettings, OrderByTheirMembersInTurn)
