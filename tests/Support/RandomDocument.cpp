@@ -126,6 +126,17 @@ struct Randomize<DOM::SharedObjectFactory> {
     static void apply(DOM::SharedObjectFactory& /*value*/, Random& /*random*/) {}
 };
 
+/// Every copy of such a fill has a holder of its own for its image, so that a copy of fills that share one would not give the
+/// same text.
+template <>
+struct Randomize<DOM::BlipFill> {
+    static void apply(DOM::BlipFill& value, Random& random)
+    {
+        forEachMember<DOM::BlipFill>([&](auto member) { randomize(value.*member.pointer, random); });
+        value = DOM::BlipFill(std::as_const(value));
+    }
+};
+
 template <class T>
 struct Randomize<DOM::SharedStyle<T>> {
     static void apply(DOM::SharedStyle<T>& value, Random& random)
@@ -203,5 +214,60 @@ DOM::Document makeRandomDocument(std::uint64_t seed, int depth)
     randomize(document, random);
     return document;
 }
+
+void changeInPlace(DOM::Document& document, std::uint64_t seed, int depth)
+{
+    Random random(seed);
+    random.depth = depth;
+    random.isInPlace = true;
+    randomize(document, random);
+}
+
+namespace {
+
+template <class Root, class... Ts>
+std::vector<std::unique_ptr<Root>> makeOneOfEach(TypeList<Ts...> /*types*/, Random& random)
+{
+    std::vector<std::unique_ptr<Root>> objects;
+    (objects.push_back(RandomizeDetails::makeConcrete<Root, Ts>(random)), ...);
+    return objects;
+}
+
+} // namespace
+
+template <class Root>
+std::vector<std::unique_ptr<Root>> makeOneOfEachKind(std::uint64_t seed)
+{
+    Random random(seed);
+    return makeOneOfEach<Root>(typename Root::Types{}, random);
+}
+
+template <class Root>
+void changeInPlace(Root& object, std::uint64_t seed)
+{
+    Random random(seed);
+    random.isInPlace = true;
+    RandomizeDetails::changeObject(object, random);
+}
+
+#define QN_TEST_FAMILY(Root)                                                                                 \
+    template std::vector<std::unique_ptr<Root>> makeOneOfEachKind<Root>(std::uint64_t seed);                 \
+    template void changeInPlace<Root>(Root & object, std::uint64_t seed);
+
+QN_TEST_FAMILY(DOM::Chart)
+QN_TEST_FAMILY(DOM::ChartAxis)
+QN_TEST_FAMILY(DOM::Series)
+QN_TEST_FAMILY(DOM::Block)
+QN_TEST_FAMILY(DOM::GraphicalObject)
+QN_TEST_FAMILY(DOM::Fill)
+QN_TEST_FAMILY(DOM::LineProps)
+QN_TEST_FAMILY(DOM::Geometry)
+QN_TEST_FAMILY(DOM::TableFilter)
+QN_TEST_FAMILY(DOM::Run)
+QN_TEST_FAMILY(DOM::FormulaSyntaxTree::Expr)
+QN_TEST_FAMILY(DOM::DrawingCommands::PathCommand)
+QN_TEST_FAMILY(DOM::DrawingFormulas::Expression)
+
+#undef QN_TEST_FAMILY
 
 } // namespace QN::Test

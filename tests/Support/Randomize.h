@@ -13,6 +13,8 @@
 #include <string>
 #include <tuple>
 #include <type_traits>
+#include <typeindex>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -20,9 +22,11 @@
 #include "Utils/Public/ClassScheme/TypeTraits.h"
 #include "Utils/Public/Clonable.h"
 #include "Utils/Public/TypeList.h"
+#include "Utils/Public/Visitor.h"
 
 /// Fills any class with random content through its member list: every optional both ways, every alternative of every
-/// variant, every concrete class of a family. What a class's invariants forbid is mended by a specialisation of `Randomize`.
+/// variant, every concrete class of a family, shared objects with one holder and with several. What a class's invariants
+/// forbid is mended by a specialisation of `Randomize`.
 
 namespace QN::Test {
 
@@ -38,8 +42,40 @@ public:
     /// How many pointers may still be followed: containers stay empty and pointers null once none is left.
     int depth = 4;
 
+    /// Whether what an object owns is changed where it stands, in its number and its class, instead of being replaced.
+    bool isInPlace = false;
+
+    /// At times lets the pointer share an earlier object, but none deeper than may be made here.
+    template <class Ptr>
+    bool share(Ptr& pointer)
+    {
+        const auto& offered = _offered[typeid(Ptr)];
+        if (offered.empty() || !oneIn(4)) {
+            return false;
+        }
+        const Offer& offer = offered[below(offered.size())];
+        if (offer.depth > depth) {
+            return false;
+        }
+        pointer = *std::static_pointer_cast<const Ptr>(offer.pointer);
+        return true;
+    }
+
+    /// Lets later pointers share the object of this one.
+    template <class Ptr>
+    void offer(const Ptr& pointer)
+    {
+        _offered[typeid(Ptr)].push_back({depth, std::make_shared<const Ptr>(pointer)});
+    }
+
 private:
+    struct Offer {
+        int depth;
+        std::shared_ptr<const void> pointer;
+    };
+
     std::mt19937_64 _engine;
+    std::unordered_map<std::type_index, std::vector<Offer>> _offered;
 };
 
 template <class T>
@@ -133,10 +169,24 @@ std::unique_ptr<Root> randomConcrete(TypeList<Ts...>, Random& random)
 }
 
 template <class T>
+concept FamilyRoot = std::is_base_of_v<ClonableBase, T> && std::is_abstract_v<T>;
+
+template <class T>
+void changeObject(T& object, Random& random)
+{
+    const Descent descent(random);
+    if constexpr (FamilyRoot<T>) {
+        visit<void>(object, [&](auto& concrete) { randomize(concrete, random); });
+    } else {
+        randomize(object, random);
+    }
+}
+
+template <class T>
 std::unique_ptr<T> randomObject(Random& random)
 {
     const Descent descent(random);
-    if constexpr (std::is_base_of_v<ClonableBase, T> && std::is_abstract_v<T>) {
+    if constexpr (FamilyRoot<T>) {
         return randomConcrete<T>(typename T::Types{}, random);
     } else {
         auto made = std::make_unique<T>();
@@ -189,6 +239,10 @@ void randomize(T& value, Random& random)
     } else if constexpr (std::is_same_v<T, std::string>) {
         value = Details::randomString(random);
     } else if constexpr (IsOptional<T>) {
+        if (random.isInPlace && value) {
+            randomize(*value, random);
+            return;
+        }
         value = boost::none;
         if (!isDeep && random.oneIn(2)) {
             value.emplace();
@@ -202,20 +256,19 @@ void randomize(T& value, Random& random)
         randomize(value.first, random);
         randomize(value.second, random);
     } else if constexpr (IsUniquePtr<T>) {
+        if (random.isInPlace && value) {
+            Details::changeObject(*value, random);
+            return;
+        }
         value.reset();
         if (!isDeep && !random.oneIn(3)) {
             value = Details::randomObject<typename T::element_type>(random);
         }
-    } else if constexpr (InstanceOf<T, std::shared_ptr>) {
+    } else if constexpr (InstanceOf<T, std::shared_ptr> || InstanceOf<T, boost::intrusive_ptr>) {
         value.reset();
-        if (!isDeep && !random.oneIn(3)) {
-            value = Details::randomObject<std::remove_const_t<typename T::element_type>>(random);
-        }
-    } else if constexpr (InstanceOf<T, boost::intrusive_ptr>) {
-        value.reset();
-        if (!isDeep && !random.oneIn(3)) {
-            value.reset(
-                Details::randomObject<std::remove_const_t<typename T::element_type>>(random).release());
+        if (!isDeep && !random.oneIn(3) && !random.share(value)) {
+            value = T(Details::randomObject<std::remove_const_t<typename T::element_type>>(random).release());
+            random.offer(value);
         }
     } else if constexpr (InstanceOf<T, PropagateConstPtr>) {
         randomize(value.getPtr(), random);
@@ -224,6 +277,12 @@ void randomize(T& value, Random& random)
         randomize(object, random);
         value = T(std::move(object));
     } else if constexpr (IsVector<T>) {
+        if (random.isInPlace && !value.empty()) {
+            for (auto& element : value) {
+                randomize(element, random);
+            }
+            return;
+        }
         value.clear();
         for (std::size_t count = isDeep ? 0 : random.below(4); count > 0; --count) {
             randomize(value.emplace_back(), random);
