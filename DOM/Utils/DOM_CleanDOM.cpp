@@ -1,5 +1,7 @@
 #include "DOM/Utils/DOM_CleanDOM.h"
 
+#include <unordered_set>
+
 #include "DOM/DOM_Document.h"
 #include "DOM/DOM_HeaderFooterPair.h"
 #include "DOM/DOM_TextWithTombstones.h"
@@ -9,7 +11,8 @@ namespace QN::DOM {
 
 namespace {
 
-/// Cleans texts at once and puts off their tables, so that nested tables need no deeper stack.
+/// Cleans texts at once and puts off their tables, so that nested tables need no deeper stack. A walk over a loaded table
+/// can come to a cell more than once: each table is cleaned only the first time.
 class TreeCleaner {
 public:
     explicit TreeCleaner(DOMCleanType type) : _type(type) {}
@@ -34,7 +37,11 @@ public:
 
     void clean(Block& block)
     {
-        visit<void>(block, [&](Table& table) { _pendingTables.push_back(&table); });
+        visit<void>(block, [&](Table& table) {
+            if (_seenTables.insert(&table).second) {
+                _pendingTables.push_back(&table);
+            }
+        });
     }
 
     void cleanPendingTables()
@@ -70,6 +77,7 @@ private:
     }
 
     DOMCleanType _type;
+    std::unordered_set<const Table*> _seenTables;
     std::vector<Table*> _pendingTables;
 };
 

@@ -13,9 +13,9 @@
 /// From plain text to paragraphs and runs, and back. All are linear in the text.
 ///
 /// Text is UTF-8. Where a walk comes to a malformed place it throws an exception of utf8-cpp: "Invalid UTF-8" for a byte that
-/// cannot stand there and for an overlong form, "Invalid code point" for a surrogate or a number past U+10FFFF, "Not enough
-/// space" for a sequence that the end of the text cuts short. What was handed on or appended before stays so, but for the
-/// piece of text that the malformed place belongs to.
+/// cannot stand there and for an overlong form, "Invalid code point" for a surrogate or a number past U+10FFFF, and
+/// "Not enough space" for a sequence that the end of the text cuts short. What was handed on or appended before stays so;
+/// the piece of text, or the paragraph, that holds the malformed place does not come.
 namespace QN::DOM {
 
 class Block;
