@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstdlib>
 #include <exception>
 #include <filesystem>
@@ -8,138 +9,159 @@
 #include <string>
 
 #include "DOM/DOM.h"
-#include "Utils/Public/Archive/JSONArchives.h"
+#include "demo/Banner.h"
+#include "demo/CsvImport.h"
 #include "demo/HtmlExport.h"
+#include "demo/PageSetup.h"
+#include "demo/SheetChart.h"
+#include "demo/SheetEdits.h"
+#include "demo/SheetLayout.h"
 #include "demo/TextImport.h"
+#include "demo/Validation.h"
 
-/// What users of the library do: import a text, save the document as JSON, load it back, compare, edit it, and write a page
-/// that shows it. Usage: demo TEXT_FILE [OUTPUT_FOLDER]
+/// What users of the library do: import a text and a sheet into one document, validate it, save it as JSON, load it back,
+/// compare, edit it, and write a page that shows it. Usage: demo TEXT_FILE CSV_FILE [OUTPUT_FOLDER]
 
 namespace {
 
 using namespace QN::DOM;
+using std::filesystem::path;
 
-std::string readFile(const std::filesystem::path& path)
+std::string readFile(const path& file)
 {
-    std::ifstream file(path, std::ios::binary);
-    if (!file || std::filesystem::is_directory(path)) {
-        throw std::runtime_error("cannot read " + path.string());
+    std::ifstream stream(file, std::ios::binary);
+    if (!stream || std::filesystem::is_directory(file)) {
+        throw std::runtime_error("cannot read " + file.string());
     }
-    return {std::istreambuf_iterator<char>(file), {}};
+    return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-std::ofstream openForWriting(const std::filesystem::path& path)
+std::ofstream openForWriting(const path& file)
 {
-    std::ofstream file(path, std::ios::binary);
-    if (!file) {
-        throw std::runtime_error("cannot write " + path.string());
+    std::ofstream stream(file, std::ios::binary);
+    if (!stream) {
+        throw std::runtime_error("cannot write " + file.string());
     }
-    return file;
+    return stream;
 }
 
-void save(const Document& document, const std::filesystem::path& path)
+void save(const Document& document, const path& file)
 {
-    std::ofstream file = openForWriting(path);
-    cereal::JSONOutputArchive archive(file);
+    std::ofstream stream = openForWriting(file);
+    cereal::JSONOutputArchive archive(stream);
     document.serialize(archive);
 }
 
-Document load(const std::filesystem::path& path)
+Document load(const path& file)
 {
-    std::ifstream file(path, std::ios::binary);
-    cereal::JSONInputArchive archive(file);
+    std::ifstream stream(file, std::ios::binary);
+    cereal::JSONInputArchive archive(stream);
     Document document;
     document.serialize(archive);
     return document;
 }
 
-struct Counts {
-    std::size_t paragraphs = 0;
-    std::size_t runs = 0;
-    std::size_t styledRuns = 0;
-    std::size_t headings = 0;
-};
-
-Counts count(const Document& document)
+/// Makes a document of a text and a sheet, with a page set-up, a banner, a theme and a chart.
+Document import(const path& text, const path& csv)
 {
-    Counts counts;
-    for (const Block& block : document.getBlocks()) {
-        const auto& paragraph = dynamic_cast<const Paragraph&>(block);
-        ++counts.paragraphs;
-        counts.headings += paragraph.getSharedStyle() ? 1U : 0U;
-        for (const Run& run : paragraph.getRuns()) {
-            ++counts.runs;
-            counts.styledRuns += run.getSharedStyle() ? 1U : 0U;
-        }
-    }
-    return counts;
-}
-
-/// Deletes the second paragraph as a collaborator would, so that its place stays known, and adds one at the end.
-void edit(Document& document)
-{
-    using QN::CollaborationUtils::IndexIncludingTombstones;
-    TextWithTombstones& text = document.getTextWithTombstones();
-    if (text.getBlocks().size() > 1) {
-        const auto place = text.getTombstones().replaceWithTombstone(IndexIncludingTombstones(1));
-        text.getBlocks().erase(text.getBlocks().begin() + static_cast<std::ptrdiff_t>(place.get()));
-    }
-    auto paragraph = std::make_unique<Paragraph>();
-    paragraph->getRuns().push_back(
-        std::make_unique<TextRun>("This paragraph was added to the loaded document."));
-    text.getBlocks().push_back(std::move(paragraph));
-}
-
-int run(const std::filesystem::path& input, const std::filesystem::path& folder)
-{
-    std::filesystem::create_directories(folder);
-
     Document document;
     appendPredefinedEntities(document);
-    document.getProps().setTitle(input.filename().string());
-    Demo::importText(readFile(input), document);
-    const Counts counts = count(document);
-    std::cout << "imported " << input.filename().string() << ": " << counts.paragraphs << " paragraphs, "
-              << counts.headings << " of them headings, " << counts.runs << " runs, " << counts.styledRuns
-              << " of them bold or italic\n";
+    setDefaultThemeIfNeeded(document);
+    document.getProps().setTitle(text.stem().string() + " and " + csv.stem().string());
+    Demo::setUpPages(document);
 
-    const auto json = folder / "document.json";
-    save(document, json);
-    std::cout << "saved    " << json.string() << ": " << std::filesystem::file_size(json) << " bytes\n";
+    Demo::importText(readFile(text), text.parent_path(), document);
+    const std::size_t paragraphsCount = document.getBlocks().size();
+    const std::string summary = std::to_string(paragraphsCount) + " paragraphs";
+    Demo::insertBanner(document, std::min<std::size_t>(paragraphsCount, 2), summary);
+    std::cout << "imported " << text.filename().string() << ": " << summary << '\n';
 
-    Document loaded = load(json);
-    const bool isEqual = loaded == document;
-    const auto again = folder / "document-again.json";
+    Table& sheet = Demo::importCsv(readFile(csv), csv.stem().string(), document);
+    Demo::addChart(sheet);
+    std::cout << "imported " << csv.filename().string() << ": " << sheet.getLiveRowsCount().get() << " rows, "
+              << sheet.getLiveColsCount().get() << " columns\n";
+    return document;
+}
+
+/// Saves a document, loads it back, and tells whether the two are equal, also in the bytes that they are saved to.
+bool isEqualAfterRoundTrip(const Document& document, const path& file, Document& loaded)
+{
+    save(document, file);
+    loaded = load(file);
+    path again = file;
+    again.replace_extension(".again.json");
     save(loaded, again);
-    const bool areSameBytes = readFile(json) == readFile(again);
-    std::cout << "loaded   and saved again to " << (areSameBytes ? "the same bytes\n" : "OTHER BYTES\n");
+    const bool isEqual = loaded == document && readFile(file) == readFile(again);
+    std::cout << "saved    " << file.string() << ": " << std::filesystem::file_size(file)
+              << " bytes; loaded back " << (isEqual ? "equal" : "DIFFERENT") << '\n';
+    return isEqual;
+}
 
-    const auto page = folder / "document.html";
-    {
-        std::ofstream file = openForWriting(page);
-        Demo::exportHtml(loaded, file);
+/// Removes a paragraph as a collaborator would, so that its place stays known, and writes one behind the others.
+void editText(Document& document)
+{
+    using QN::CollaborationUtils::IndexExcludingTombstones;
+    auto& blocks = document.getBlocks();
+    auto& tombstones = document.getTextWithTombstones().getTombstones();
+    std::size_t removed = blocks.size();
+    std::size_t last = 0;
+    for (std::size_t i = 0; i < blocks.size(); ++i) {
+        const auto* const paragraph = dynamic_cast<const Paragraph*>(blocks[i].get());
+        if (paragraph != nullptr && !paragraph->getSharedStyle()) {
+            removed = std::min(removed, i);
+            last = i;
+        }
     }
-    std::cout << "wrote    " << page.string() << '\n';
+    if (removed == blocks.size()) {
+        return;
+    }
+    auto added = std::make_unique<Paragraph>();
+    added->getRuns().push_back(std::make_unique<TextRun>("This was written into the loaded document."));
+    tombstones.insertElement(tombstones.convertIndex(IndexExcludingTombstones(last)) + 1);
+    blocks.insert(blocks.begin() + static_cast<std::ptrdiff_t>(last) + 1, std::move(added));
 
-    edit(loaded);
-    std::cout << "edited   the loaded document: " << loaded.getBlocks().size() << " paragraphs, "
-              << loaded.getTextWithTombstones().getTombstones().getTombstonesCount() << " tombstone, "
-              << (loaded == document ? "STILL EQUAL" : "no longer equal") << '\n';
+    tombstones.replaceWithTombstone(tombstones.convertIndex(IndexExcludingTombstones(removed)));
+    blocks.erase(blocks.begin() + static_cast<std::ptrdiff_t>(removed));
+}
 
-    std::cout << "round trip: " << (isEqual && areSameBytes ? "equal" : "NOT EQUAL") << std::endl;
-    return isEqual && areSameBytes && !(loaded == document) ? EXIT_SUCCESS : EXIT_FAILURE;
+bool run(const path& text, const path& csv, const path& folder)
+{
+    std::filesystem::create_directories(folder);
+    const Document document = import(text, csv);
+    bool isGood = Demo::validate(document, std::cout);
+
+    Document loaded;
+    isGood = isEqualAfterRoundTrip(document, folder / "document.json", loaded) && isGood;
+    isGood = Demo::validate(loaded, std::cout) && isGood;
+    Demo::validateBroken(loaded, std::cout);
+
+    editText(loaded);
+    std::cout << "edited   the text: a paragraph removed, one added\n"
+              << "edited   the sheet: a formula and the sum of all of them\n";
+    Demo::editSheet(*Demo::findSheet(loaded), std::cout);
+    isGood = !(loaded == document) && Demo::validate(loaded, std::cout) && isGood;
+    Document edited;
+    isGood = isEqualAfterRoundTrip(loaded, folder / "edited.json", edited) && isGood;
+
+    const path page = folder / "document.html";
+    std::ofstream stream = openForWriting(page);
+    Demo::exportHtml(edited, stream);
+    std::cout << "wrote    " << page.string() << "\nround trip: " << (isGood ? "equal" : "NOT EQUAL")
+              << std::endl;
+    return isGood;
 }
 
 } // namespace
 
 int main(int argumentCount, char** arguments)
 {
-    if (argumentCount < 2 || argumentCount > 3) {
-        std::cerr << "usage: demo TEXT_FILE [OUTPUT_FOLDER]\n";
+    if (argumentCount < 3 || argumentCount > 4) {
+        std::cerr << "usage: demo TEXT_FILE CSV_FILE [OUTPUT_FOLDER]\n";
         return EXIT_FAILURE;
     }
     try {
-        return run(arguments[1], argumentCount == 3 ? arguments[2] : "demo-output");
+        const char* const folder = argumentCount == 4 ? arguments[3] : "demo-output";
+        return run(arguments[1], arguments[2], folder) ? EXIT_SUCCESS : EXIT_FAILURE;
     } catch (const std::exception& error) {
         std::cerr << "demo: " << error.what() << '\n';
         return EXIT_FAILURE;

@@ -1,11 +1,14 @@
 #include "HtmlExport.h"
 
 #include <algorithm>
-#include <array>
 #include <ostream>
-#include <sstream>
 #include <string>
-#include <string_view>
+
+#include "Css.h"
+#include "Lists.h"
+#include "ShapeSvg.h"
+#include "SheetHtml.h"
+#include "Text.h"
 
 namespace Demo {
 
@@ -13,129 +16,172 @@ namespace {
 
 using namespace QN::DOM;
 
-/// Text between tags and in attributes. Control characters that HTML does not allow are left out.
-std::string escape(std::string_view text)
-{
-    std::string escaped;
-    for (const char c : text) {
-        switch (c) {
-        case '&':
-            escaped += "&amp;";
-            break;
-        case '<':
-            escaped += "&lt;";
-            break;
-        case '>':
-            escaped += "&gt;";
-            break;
-        case '"':
-            escaped += "&quot;";
-            break;
-        default:
-            if (static_cast<unsigned char>(c) >= 0x20 || c == '\t') {
-                escaped += c;
-            }
-        }
-    }
-    return escaped;
-}
+constexpr const char* PageCss =
+    R"(body{margin:0;padding:1.5em 0;background:#e6e6e1;font-family:Charter,Palatino,Georgia,serif}
+.page{box-sizing:border-box;max-width:60em;margin:0 auto 1.5em;padding:1.6em 3.2em 1.2em;background:#fff;box-shadow:0 1px 4px #0003}
+.text{padding-left:7em;padding-right:7em}
+header,footer{font-family:'Helvetica Neue',Arial,sans-serif;border-color:#ccc;border-style:solid;border-width:0}
+header{border-bottom-width:1px;margin-bottom:2em;padding-bottom:.4em}
+footer{border-top-width:1px;margin-top:2em;padding-top:.6em}
+p,h1,h2,h3,h4,h5{margin:0 0 .55em 0;line-height:1.45;font-weight:inherit;tab-size:36pt;white-space:pre-wrap}
+h1,h2,h3{margin-top:1.1em;margin-bottom:.4em}
+header p,footer p{margin:0}
+img{display:block;max-width:100%;margin:.8em auto .4em}
+.item{position:relative}
+.marker{position:absolute;left:-18pt}
+.marker + *{text-indent:0}
+.shape{position:relative;width:max-content;margin:1.2em auto 1.8em}
+.shape svg{display:block}
+.shape div{position:absolute;inset:0;display:flex;flex-direction:column;justify-content:center;text-align:center}
+.shape p{margin:0}
+)";
 
-std::string toCss(const Color& color)
-{
-    std::ostringstream css;
-    if (const auto* const literal = boost::get<cinder::ColorAT<unsigned char>>(&color.getValue())) {
-        css << "rgba(" << +literal->r << ',' << +literal->g << ',' << +literal->b << ','
-            << +literal->a / 255.0 << ')';
-    } else {
-        css << "inherit";
-    }
-    return css.str();
-}
-
-std::string toCss(const FontProps& font)
-{
-    std::ostringstream css;
-    if (const auto* const family = boost::get<std::string>(&font.getFont())) {
-        css << "font-family:'" << *family << "',Georgia,serif;";
-    }
-    if (font.getSize()) {
-        css << "font-size:" << *font.getSize() << "pt;";
-    }
-    if (font.getBold()) {
-        css << "font-weight:" << (*font.getBold() ? "bold;" : "normal;");
-    }
-    if (font.getItalic()) {
-        css << "font-style:" << (*font.getItalic() ? "italic;" : "normal;");
-    }
-    return css.str();
-}
-
-std::string toCss(const RunProps* props)
-{
-    std::string css;
-    if (props != nullptr) {
-        if (props->getFontProps()) {
-            css += toCss(*props->getFontProps());
-        }
-        if (props->getColor()) {
-            css += "color:" + toCss(*props->getColor()) + ';';
-        }
-        if (props->getUnderline()) {
-            css += "text-decoration:underline;";
-        }
-    }
-    return css;
-}
-
-std::string toCss(const ParaProps* props)
-{
-    std::ostringstream css;
-    if (props != nullptr) {
-        if (props->getBeforeSpacing() && !props->getBeforeSpacing()->isAuto()) {
-            css << "margin-top:" << props->getBeforeSpacing()->getValue() << "pt;";
-        }
-        if (props->getAfterSpacing() && !props->getAfterSpacing()->isAuto()) {
-            css << "margin-bottom:" << props->getAfterSpacing()->getValue() << "pt;";
-        }
-        if (props->getLeftIndent()) {
-            css << "margin-left:" << *props->getLeftIndent() << "pt;";
-        }
-        if (props->getFirstLineIndent()) {
-            css << "text-indent:" << *props->getFirstLineIndent() << "pt;";
-        }
-        if (props->getLineSpacing()) {
-            css << "line-height:" << props->getLineSpacing()->getValue() * 1.2F << ';';
-        }
-    }
-    return css.str();
-}
-
-class Exporter {
+class PageWriter {
 public:
-    Exporter(const Document& document, std::ostream& out) : _document(document), _out(out) {}
+    PageWriter(const Document& document, std::ostream& out)
+        : _document(document), _out(out), _markers(document)
+    {
+        const auto& blocks = document.getBlocks();
+        _pagesCount = 1 + std::count_if(blocks.begin(), blocks.end(), [](const Block& block) {
+                          return dynamic_cast<const Table*>(&block) != nullptr;
+                      });
+    }
 
     void write()
     {
-        const std::string title = _document.getProps().getTitle().value_or("A document");
         _out << "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n<title>"
-             << escape(title) << "</title>\n<style>\n"
-             << "body{max-width:42em;margin:2em auto;padding:0 1em;background:#fdfdfb}\n"
-             << "p,h1,h2,h3,h4,h5{margin:0 0 .6em 0;line-height:1.4;font-weight:inherit;tab-size:8;"
-             << "white-space:pre-wrap}\n";
+             << escapeHtml(getTitle()) << "</title>\n<style>\n"
+             << PageCss << SheetCss;
         for (const NamedTextStyle& style : _document.getStyles().getTextStyles()) {
             _out << '.' << getClass(style.getUUID()) << '{' << toCss(style.getParaProps().get())
-                 << toCss(style.getRunProps().get()) << "}\n";
+                 << toCss(style.getRunProps().get(), _document) << "}\n";
         }
         _out << "</style>\n</head>\n<body>\n";
+        beginPage("page text");
         for (const Block& block : _document.getBlocks()) {
-            if (const auto* const paragraph = dynamic_cast<const Paragraph*>(&block)) {
-                write(*paragraph);
-            }
+            QN::visit<void>(block, *this);
         }
+        endPage();
         _out << "</body>\n</html>\n";
     }
 
+    // The blocks; visited by class.
+
+    void operator()(const Table& table)
+    {
+        endPage();
+        beginPage("page");
+        exportSheet(table, _document, _out);
+    }
+
+    void operator()(const Shape& shape)
+    {
+        _out << "<div class=\"shape\">" << drawShape(shape, _document) << "<div>";
+        for (const Block& block : shape.getBlocks()) {
+            QN::visit<void>(block, *this);
+        }
+        _out << "</div></div>\n";
+    }
+
+    void operator()(const Paragraph& paragraph)
+    {
+        const NamedTextStyle* const style = findStyle(paragraph);
+        const std::string tag = getTag(style);
+        const NumberingLevel* const level = _markers.findLevel(paragraph);
+        const std::string marker = _markers.getNext(paragraph);
+        const bool isBullet = level != nullptr && tag == "p";
+
+        _out << '<' << tag << " class=\"" << (isBullet ? "item" : "");
+        if (style != nullptr) {
+            _out << ' ' << getClass(style->getUUID());
+        }
+        _out << "\" style=\"";
+        if (isBullet && level->getStyle().getParaProps()) {
+            // The marker hangs in front of the text, which is indented as the level says.
+            _out << "margin-left:"
+                 << toFixed(level->getStyle().getParaProps()->getLeftIndent().value_or(0.0F), 1) << "pt;";
+        }
+        _out << escapeHtml(toCss(paragraph.getStyle().getParaProps().get()) +
+                           toCss(paragraph.getStyle().getRunProps().get(), _document))
+             << "\">";
+        if (!marker.empty()) {
+            _out << (isBullet ? "<span class=\"marker\">" : "<span>") << escapeHtml(marker)
+                 << (isBullet ? "</span>" : "&ensp;</span>");
+        }
+        for (const Run& run : paragraph.getRuns()) {
+            const std::string direct = toCss(run.getStyle().getRunProps().get(), _document);
+            _out << (direct.empty() ? "" : "<span style=\"" + escapeHtml(direct) + "\">");
+            QN::visit<void>(run, *this);
+            _out << (direct.empty() ? "" : "</span>");
+        }
+        _out << "</" << tag << ">\n";
+    }
+
+    void operator()(const Block&) {}
+
+    // The runs.
+
+    void operator()(const DrawingRun& run)
+    {
+        const auto* const picture = dynamic_cast<const Picture*>(run.getFrame().getGraphicalObject());
+        if (picture != nullptr && picture->getPictureData()) {
+            _out << "<img alt=\"\" src=\"data:;base64," << toBase64(*picture->getPictureData()) << "\">";
+        }
+    }
+
+    void operator()(const FieldRun& run)
+    {
+        _out << escapeHtml(boost::apply_visitor(FieldText{*this}, run.getFieldInfo()));
+    }
+
+    void operator()(const Run& run) { _out << escapeHtml(run.getText()); }
+
 private:
+    /// What a field shows at the place that is being written.
+    struct FieldText : boost::static_visitor<std::string> {
+        explicit FieldText(const PageWriter& pageWriter) : writer(pageWriter) {}
+
+        std::string operator()(const FieldRun::TitleInfo&) const { return writer.getTitle(); }
+        std::string operator()(const FieldRun::PageNumberInfo&) const { return std::to_string(writer._page); }
+        std::string operator()(const PagesCountInfo&) const { return std::to_string(writer._pagesCount); }
+        template <class Info>
+        std::string operator()(const Info&) const
+        {
+            return "?";
+        }
+
+        const PageWriter& writer;
+    };
+
+    std::string getTitle() const { return _document.getProps().getTitle().value_or("A document"); }
+
+    void beginPage(const char* style)
+    {
+        ++_page;
+        _out << "<section class=\"" << style << "\">\n";
+        writeHeaderOrFooter("header", HeaderFooterType::Header);
+    }
+
+    void endPage()
+    {
+        writeHeaderOrFooter("footer", HeaderFooterType::Footer);
+        _out << "</section>\n";
+    }
+
+    void writeHeaderOrFooter(const char* tag, HeaderFooterType type)
+    {
+        const HeaderFooterPair* const pair =
+            getHeaderFooter(_document.getDefaultSectionProps(), _document.getHeadersFooters(),
+                            PageIndex(static_cast<unsigned long>(_page - 1)));
+        if (pair != nullptr && !pair->isEmpty(type)) {
+            _out << '<' << tag << ">\n";
+            for (const Block& block : pair->getHeaderOrFooter(type).getBlocks()) {
+                QN::visit<void>(block, *this);
+            }
+            _out << "</" << tag << ">\n";
+        }
+    }
+
     static std::string getClass(const QN::UUID& style) { return "s" + style.toString(); }
 
     /// The style that a paragraph refers to, or else the default one of the document.
@@ -144,36 +190,6 @@ private:
         const QN::UUID& parent = paragraph.getStyle().getParentUUID();
         const Styles& styles = _document.getStyles();
         return styles.getTextStyles().find(parent ? parent : styles.getDefaultParagraphStyleUUID());
-    }
-
-    void write(const Paragraph& paragraph)
-    {
-        const NamedTextStyle* const style = findStyle(paragraph);
-        const std::string tag = getTag(style);
-        _out << '<' << tag;
-        if (style != nullptr) {
-            _out << " class=\"" << getClass(style->getUUID()) << '"';
-        }
-        const std::string direct = toCss(paragraph.getStyle().getParaProps().get()) +
-                                   toCss(paragraph.getStyle().getRunProps().get());
-        if (!direct.empty()) {
-            _out << " style=\"" << escape(direct) << '"';
-        }
-        _out << '>';
-        for (const Run& run : paragraph.getRuns()) {
-            write(run);
-        }
-        _out << "</" << tag << ">\n";
-    }
-
-    void write(const Run& run)
-    {
-        const std::string direct = toCss(run.getStyle().getRunProps().get());
-        if (direct.empty()) {
-            _out << escape(run.getText());
-        } else {
-            _out << "<span style=\"" << escape(direct) << "\">" << escape(run.getText()) << "</span>";
-        }
     }
 
     /// A heading for a style with an outline level.
@@ -188,13 +204,16 @@ private:
 
     const Document& _document;
     std::ostream& _out;
+    ListMarkers _markers;
+    std::ptrdiff_t _page = 0;
+    std::ptrdiff_t _pagesCount = 1;
 };
 
 } // namespace
 
 void exportHtml(const Document& document, std::ostream& out)
 {
-    Exporter(document, out).write();
+    PageWriter(document, out).write();
 }
 
 } // namespace Demo

@@ -1,8 +1,13 @@
 #include "TextImport.h"
 
+#include <algorithm>
+#include <fstream>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <utility>
+
+#include "Lists.h"
 
 namespace Demo {
 
@@ -18,32 +23,71 @@ struct Emphasis {
 
 class Importer {
 public:
-    explicit Importer(Document& document) : _document(document) {}
+    Importer(Document& document, std::filesystem::path folder)
+        : _document(document), _folder(std::move(folder))
+    {
+    }
 
     void appendLine(std::string_view line)
     {
+        std::size_t level = 0;
         auto paragraph = std::make_unique<Paragraph>();
-        const std::size_t level = takeHeadingMark(line);
-        if (level != 0) {
-            const bool isTitle = level == 1 && _document.getBlocks().empty();
-            setParent(*paragraph,
-                      isTitle ? PredefinedStyleName::Title : static_cast<PredefinedStyleName>(level));
+        if (appendPicture(line)) {
+            return;
+        }
+        if (takeHeadingMark(line, level)) {
+            makeHeading(*paragraph, level);
+        } else if (takeItemMark(line, level)) {
+            paragraph->getNumRef() =
+                makeNumberingRef(_document, NumberedListName::FilledCircleBullets, _bulletsTag, level);
+        } else if (line.find('\t', 1) != line.npos) {
+            setTabStops(*paragraph);
+        }
+        // Items without another line between them are one list.
+        if (!paragraph->getNumRef()) {
+            _bulletsTag = QN::UUID::generate();
         }
         appendRuns(line, *paragraph);
         _document.getBlocks().push_back(std::move(paragraph));
     }
 
 private:
-    /// The number of `#` before the text of a heading, which is taken off; 0 for any other line.
-    static std::size_t takeHeadingMark(std::string_view& line)
+    /// Takes `#` and a blank off the text of a heading. The level is the number of `#`.
+    static bool takeHeadingMark(std::string_view& line, std::size_t& level)
     {
         constexpr std::size_t LastLevel = 5;
-        const std::size_t level = std::min(line.find_first_not_of('#'), line.size());
+        level = std::min(line.find_first_not_of('#'), line.size());
         if (level == 0 || level > LastLevel || level == line.size() || line[level] != ' ') {
-            return 0;
+            return false;
         }
         line.remove_prefix(level + 1);
-        return level;
+        return true;
+    }
+
+    /// Takes `-` and a blank off the text of an item. The level is 0 for an item that is not indented.
+    static bool takeItemMark(std::string_view& line, std::size_t& level)
+    {
+        constexpr std::size_t LastLevel = 8;
+        const std::size_t indent = line.find_first_not_of(' ');
+        if (!line.substr(indent).starts_with("- ")) {
+            return false;
+        }
+        level = std::min(indent / 2, LastLevel);
+        line.remove_prefix(indent + 2);
+        return true;
+    }
+
+    void makeHeading(Paragraph& paragraph, std::size_t level)
+    {
+        if (level == 1 && _document.getBlocks().empty()) {
+            _hasTitle = true;
+            setParent(paragraph, PredefinedStyleName::Title);
+            return;
+        }
+        level -= _hasTitle && level > 1 ? 1 : 0;
+        setParent(paragraph, static_cast<PredefinedStyleName>(level));
+        paragraph.getNumRef() =
+            makeNumberingRef(_document, NumberedListName::Outline, _headingsTag, level - 1);
     }
 
     void setParent(Paragraph& paragraph, PredefinedStyleName name)
@@ -51,6 +95,51 @@ private:
         ParagraphStyle style;
         style.setParentUUID(getPredefinedTextStyleUUID(_document.getStyles(), name));
         paragraph.getSharedStyle() = _document.getSharedObjectFactory().create(std::move(style));
+    }
+
+    /// Columns for lines that have tabs between their words.
+    void setTabStops(Paragraph& paragraph)
+    {
+        constexpr float Distance = 108.0F;
+        TabStopProps stop;
+        stop.setType(TabStopType::Left);
+        TabStops stops;
+        for (const float position : {Distance, 2 * Distance, 3 * Distance}) {
+            stops.emplace(position, stop);
+        }
+        ParaProps props;
+        props.setTabStops(std::move(stops));
+        ParagraphStyle style;
+        style.setParaProps(std::make_shared<const ParaProps>(std::move(props)));
+        paragraph.getSharedStyle() = _document.getSharedObjectFactory().create(std::move(style));
+    }
+
+    /// Appends a picture with its caption, if that is what the line says.
+    bool appendPicture(std::string_view line)
+    {
+        const std::size_t captionEnd = line.find("](");
+        if (!line.starts_with("![") || captionEnd == line.npos || !line.ends_with(')')) {
+            return false;
+        }
+        const std::string_view caption = line.substr(2, captionEnd - 2);
+        const std::string_view name = line.substr(captionEnd + 2, line.size() - captionEnd - 3);
+        std::ifstream file(_folder / name, std::ios::binary);
+        std::string bytes{std::istreambuf_iterator<char>(file), {}};
+        if (bytes.empty()) {
+            return false;
+        }
+        Frame frame;
+        frame.setAnchor(TextAnchor(AnchorWrapType::Inline));
+        frame.setGraphicalObject(
+            std::make_unique<Picture>(std::make_shared<const std::string>(std::move(bytes))));
+        auto picture = std::make_unique<Paragraph>();
+        picture->getRuns().push_back(std::make_unique<DrawingRun>(std::move(frame)));
+        auto text = std::make_unique<Paragraph>();
+        setParent(*text, PredefinedStyleName::Subtitle);
+        appendRuns(caption, *text);
+        _document.getBlocks().push_back(std::move(picture));
+        _document.getBlocks().push_back(std::move(text));
+        return true;
     }
 
     void appendRuns(std::string_view line, Paragraph& paragraph)
@@ -100,13 +189,17 @@ private:
     }
 
     Document& _document;
+    std::filesystem::path _folder;
+    bool _hasTitle = false;
+    QN::UUID _headingsTag = QN::UUID::generate();
+    QN::UUID _bulletsTag = QN::UUID::generate();
 };
 
 } // namespace
 
-void importText(std::string_view text, Document& document)
+void importText(std::string_view text, const std::filesystem::path& folder, Document& document)
 {
-    Importer importer(document);
+    Importer importer(document, folder);
     while (!text.empty()) {
         const std::size_t end = std::min(text.find('\n'), text.size());
         std::string_view line = text.substr(0, end);
