@@ -2,10 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <memory>
 #include <new>
 #include <utility>
 
+#include "DOM/Properties/DOM_RunProps.h"
 #include "DOM/TextSamples.h"
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
@@ -224,6 +226,23 @@ TEST(DOM_Paragraph, ComparesStylesByValueAndNullByPointer)
     EXPECT_NE(left, right);
     left.getSharedParaMarkStyle() = makeEmptySharedStyle<RunStyle>();
     EXPECT_NE(left, Paragraph());
+}
+
+TEST(DOM_Paragraph, AStyleWithANaNIsEqualThroughOneHandleAlone)
+{
+    const auto makeStyle = [] {
+        auto props = std::make_shared<RunProps>();
+        props->setSpacing(std::numeric_limits<float>::quiet_NaN());
+        RunStyle style;
+        style.setRunProps(std::move(props));
+        return SharedObjectFactory().create(std::move(style));
+    };
+    Paragraph paragraph;
+    paragraph.getSharedParaMarkStyle() = makeStyle();
+    Paragraph copy(paragraph);
+    EXPECT_EQ(copy, paragraph);
+    copy.getSharedParaMarkStyle() = makeStyle();
+    EXPECT_NE(copy, paragraph);
 }
 
 TEST(DOM_Paragraph, ComparesTheNumberingByValue)
