@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -13,6 +14,15 @@ namespace QN::DOM::FieldRunTest {
 namespace {
 
 using namespace QN::Test;
+
+static_assert(
+    std::is_same_v<FieldRun::FieldInfo,
+                   boost::variant<PageReferenceInfo,
+                                  TaggedValue<boost::optional<NumberFormatType>, FieldRun::PageNumberTag>,
+                                  PagesCountInfo, TaggedValue<CellFormat, FieldRun::DateTag>,
+                                  TaggedValue<CellFormat, FieldRun::TimeTag>,
+                                  TaggedEmpty<FieldRun::FilePathTag>, TaggedEmpty<FieldRun::FileNameTag>,
+                                  TaggedEmpty<FieldRun::TableNameTag>, TaggedEmpty<FieldRun::TitleTag>>>);
 
 /// A format that is not the default one.
 CellFormat makeFormat()

@@ -92,6 +92,14 @@ TEST(NamedShapeStyleTest, EachKindOfAnchorPersistsUnderItsIndex)
     }
 }
 
+TEST(NamedShapeStyleTest, AKindOfAnchorThatDoesNotExistIsRefused)
+{
+    std::string json = toJson(NamedShapeStyle(SomeUUID));
+    const std::string blank = R"("_anchor":{"which":0,)";
+    json.replace(json.find(blank), blank.size(), R"("_anchor":{"which":5,)");
+    EXPECT_EQ(loadError<NamedShapeStyle>(json), "Invalid 'which' selector when deserializing boost::variant");
+}
+
 TEST(NamedShapeStyleTest, ACopySharesNeitherBackgroundNorText)
 {
     const NamedShapeStyle style = makeFullStyle();

@@ -33,6 +33,7 @@ NamedTextStyle makeFullStyle()
 
 static_assert(std::is_base_of_v<UUIDable, NamedTextStyle>);
 static_assert(!Ordered<NamedTextStyle>);
+static_assert(std::is_same_v<NamedStyleName, boost::variant<boost::blank, PredefinedStyleName, std::string>>);
 
 TEST(NamedTextStyleTest, ANewStyleHasAnIdentityAndSaysNothing)
 {
@@ -82,6 +83,17 @@ TEST(NamedTextStyleTest, EachKindOfNamePersistsUnderItsIndex)
     style.setName(std::string());
     EXPECT_NE(toJson(style).find(R"("_name":{"which":2,"data":""})"), std::string::npos);
     expectPersists(style);
+    style.setName(static_cast<PredefinedStyleName>(255));
+    EXPECT_NE(toJson(style).find(R"("_name":{"which":1,"data":255})"), std::string::npos);
+    expectPersists(style);
+}
+
+TEST(NamedTextStyleTest, AKindOfNameThatDoesNotExistIsRefused)
+{
+    std::string json = toJson(NamedTextStyle(SomeUUID));
+    const std::string blank = R"("_name":{"which":0,)";
+    json.replace(json.find(blank), blank.size(), R"("_name":{"which":3,)");
+    EXPECT_EQ(loadError<NamedTextStyle>(json), "Invalid 'which' selector when deserializing boost::variant");
 }
 
 TEST(NamedTextStyleTest, ACopyHasTheIdentityOfItsSourceAndItsOwnNumbering)

@@ -79,6 +79,19 @@ TEST(TabStopsTest, MapsWithANaNPositionAreUnequalAndYetOrderAlike)
     EXPECT_TRUE(compareDeeply(stops, stops, NanOrder::Last) == 0);
 }
 
+TEST(TabStopsTest, ANaNPositionSurvivesAFile)
+{
+    TabStops stops;
+    stops[NaN].setLeader(TabStopLeader::Dot);
+    stops[1.0F];
+    const auto loaded = fromJson<TabStops>(toJson(stops));
+    ASSERT_EQ(loaded.size(), 2U);
+    EXPECT_EQ(loaded.begin()->first, 1.0F);
+    ASSERT_TRUE(loaded.find(NaN) != loaded.end());
+    EXPECT_EQ(loaded.find(NaN)->second.getLeader(), TabStopLeader::Dot);
+    EXPECT_EQ(toJson(loaded), toJson(stops));
+}
+
 TEST(TabStopsTest, OfTwoEntriesAtOnePositionInAFileTheFirstStays)
 {
     const auto entry = [](int leader) {
