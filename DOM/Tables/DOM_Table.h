@@ -158,7 +158,8 @@ public:
     // Rows. A position among tombstones counts them. Where a row or column with the same inserted identifier is live,
     // inserting and restoring throw `BadRowColIDException` and change nothing; a predefined identifier that is live is
     // not detected. An insertion into a full axis goes past its limit, and a table saved so cannot be loaded: who fills a
-    // table to its limits checks first.
+    // table to its limits checks first. A new row or column has an identifier of `generateID`: with 0, which is never
+    // valid, live ones may no longer be found.
     //
     // Merged ranges and pivot tables come and go with their root cells and move as a whole: what happens inside one
     // neither widens nor narrows it. The area of a pivot table whose root's row or column is removed stays, and when the
@@ -180,6 +181,7 @@ public:
     // Columns, as rows. No stored cell moves; removal looks for a cell in each row that is stored.
 
     /// A position behind the live columns fails the contract "position.get() <= _colsCount".
+    /// The cells are stored as by `setCell`, which raises the extent to the end of their merged ranges.
     void insertColumn(ColumnData columnData, ColumnIndex position);
     void insertColumn(ColumnData columnData, IndexIncludingTombstones position);
     void restoreColumn(ColumnData columnData, IndexIncludingTombstones position);
@@ -337,7 +339,7 @@ public:
     /// A table of the source's identity, name, style and chunk size with the cells and the row and column styles of a
     /// rectangle, end row and end column exclusive. `callable` is called for each position, stored or not, and gives the
     /// blocks of the new cell; a position without a cell has none in the copy, and a cell in a pivot table's area becomes
-    /// a plain one.
+    /// a plain one. A merged range that reaches out of the rectangle raises the extent of the copy.
     static std::unique_ptr<Table>
     getRangeCustomCopy(const Table& source, RowIndex beginRow, ColumnIndex beginColumn, RowIndex endRow,
                        ColumnIndex endColumn, const CallableRef<Cell::Blocks(const CellInfo&)>& callable);

@@ -73,8 +73,9 @@ void Table::insertRow(RowData rowData, RowIndex position)
 
     if (!rowData.cells.empty()) {
         insertRowCells(rowData, position, chunk, relativeRow);
-        splitChunkIfNeeded(chunkIndex);
     }
+    // Also without new cells: a chunk of one large row can be divided now that it has two.
+    splitChunkIfNeeded(chunkIndex);
     if (rowData.style) {
         _rowStyles[getID(position)] = std::move(rowData.style);
     }

@@ -64,6 +64,19 @@ TEST(DOM_TableRangeCopy, TakesStylesAndMergePropsOfItsCells)
     EXPECT_EQ(copy->getMergedRange(RowIndex(1), ColumnIndex(0)), makeRange(0, 2, 0, 1));
 }
 
+TEST(DOM_TableRangeCopy, IsAsLargeAsTheMergedRangesThatReachOutOfItNeed)
+{
+    Table source = makeGrid(5, 5);
+    source.setMergeProps(RowIndex(1), ColumnIndex(1), 3, 2);
+    const auto copy = copyRange(source, makeRange(0, 2, 0, 2));
+    EXPECT_EQ(copy->getLiveRowsCount(), RowIndex(5));
+    EXPECT_EQ(copy->getLiveColsCount(), ColumnIndex(4));
+    EXPECT_EQ(copy->getMergedRange(RowIndex(4), ColumnIndex(3)), makeRange(1, 5, 1, 4));
+    const auto inside = copyRange(source, makeRange(2, 4, 2, 4));
+    EXPECT_EQ(inside->getLiveRowsCount(), RowIndex(2));
+    EXPECT_TRUE(getMergedRanges(*inside).empty());
+}
+
 TEST(DOM_TableRangeCopy, MakesPlainCellsOfThoseInAPivotTable)
 {
     Table source = makeGrid(2, 1);

@@ -118,6 +118,26 @@ TEST(DOM_TableRows, SplitTheirChunkWhenTheyBringTooManyCells)
     EXPECT_EQ(getChunkTexts(table), (ChunkTexts{"0: 1=0 | 1=5 2=6", "2: 1=10"}));
 }
 
+TEST(DOM_TableRows, SplitAChunkOfOneLargeRowAlsoWithoutCells)
+{
+    Table table = makeGrid(1, 3, 2);
+    EXPECT_EQ(getChunkTexts(table), (ChunkTexts{"0: 1=0 2=1 3=2"}));
+    table.insertRow(makeRow(Inserted), RowIndex(0));
+    EXPECT_EQ(getChunkTexts(table), (ChunkTexts{"0:", "1: 1=0 2=1 3=2"}));
+    Table below = makeGrid(1, 3, 2);
+    below.insertRow(makeRow(Inserted), RowIndex(1));
+    EXPECT_EQ(getChunkTexts(below), (ChunkTexts{"0: 1=0 2=1 3=2", "1:"}));
+}
+
+TEST(DOM_TableRows, OfTheIdentifierZeroMayHideLiveOnes)
+{
+    Table table = makeGrid(3, 1);
+    table.insertRow(RowData(), RowIndex(1));
+    EXPECT_EQ(table.getID(RowIndex(0)), RowID(1));
+    EXPECT_EQ(table.getIndex(RowID(1)), boost::none);
+    EXPECT_EQ(getNumber(table, 2, 0), 10.0);
+}
+
 TEST(DOM_TableRows, BringTheirMergedRangesAndPivotTables)
 {
     Table table = makeGrid(3, 3);
