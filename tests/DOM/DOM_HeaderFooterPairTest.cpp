@@ -218,6 +218,16 @@ TEST(HeaderFooterPairDeathTest, TheTextsOfAPairThatWasMovedFromAreNotRead)
     EXPECT_EQ(pair.getFooter().getBlocks().size(), 1U);
 }
 
+TEST(HeaderFooterPairTest, AMissingTextCanBeSeenBeforeItIsRead)
+{
+    HeaderFooterPair pair = makeFullPair();
+    EXPECT_EQ(pair.findHeaderOrFooter(Header), &pair.getHeader());
+    EXPECT_EQ(pair.findHeaderOrFooter(Footer), &pair.getFooter());
+    const HeaderFooterPair moved(std::move(pair));
+    EXPECT_EQ(pair.findHeaderOrFooter(Header), nullptr);
+    EXPECT_EQ(pair.findHeaderOrFooter(Footer), nullptr);
+}
+
 TEST(HeaderFooterPairTest, AMissingTextFromAFileStaysAndIsCopiedComparedAndSaved)
 {
     std::string json = toJson(HeaderFooterPair(SomeUUID));

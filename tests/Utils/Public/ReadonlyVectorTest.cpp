@@ -141,6 +141,18 @@ TEST(ReadonlyVectorDeathTest, FrontAndBackOfAnEmptyVectorBreakTheContract)
     EXPECT_DEATH(static_cast<void>(view[0]), "Utils/Public/ReadonlyVector:449: index < size\\(\\)\n");
 }
 
+TEST(ReadonlyVectorDeathTest, ANullElementCanBeSeenBeforeItIsRead)
+{
+    Items items = makeItems({5});
+    items.push_back(nullptr);
+    const View view(items);
+    EXPECT_EQ(view.getPointer(0), items[0].get());
+    EXPECT_EQ(view.getPointer(1), nullptr);
+    EXPECT_TRUE(std::is_const_v<std::remove_pointer_t<decltype(view.getPointer(0))>>);
+    EXPECT_DEATH(static_cast<void>(view.getPointer(2)),
+                 "Utils/Public/ReadonlyVector:449: index < size\\(\\)\n");
+}
+
 TEST(ReadonlyVectorDeathTest, ReadingANullElementBreaksTheContract)
 {
     Items items = makeItems({5});
