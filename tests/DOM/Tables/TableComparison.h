@@ -21,6 +21,7 @@ public:
     void compare(Numbers& numbers, CompareBy by) const
     {
         compareExtent();
+        compareHeaders();
         compareStorage();
         compareAreas();
         compareAreasAt(numbers.below(_model.rows.count + 1), numbers.below(_model.columns.count + 1));
@@ -50,6 +51,27 @@ private:
         if (std::max(merged.first, pivots.first) < _model.rows.count &&
             std::max(merged.second, pivots.second) < _model.columns.count) {
             _table.validate();
+        }
+    }
+
+    /// The first and how many; (0, 0) where nothing is left.
+    static Pair resolveHeaders(const ModelAxis& axis, const Pair& ids)
+    {
+        const auto begin = axis.resolve(ids.first, false);
+        const auto last = axis.resolve(ids.second, true);
+        return begin && last && *begin <= *last ? Pair(*begin, *last + 1 - *begin) : Pair(0, 0);
+    }
+
+    void compareHeaders() const
+    {
+        const auto frozen = _table.getFrozenRange();
+        expectSame(frozen.has_value() == _model.headerRows.has_value(), "headers");
+        if (frozen) {
+            const Pair rows = resolveHeaders(_model.rows, *_model.headerRows);
+            const Pair columns = resolveHeaders(_model.columns, *_model.headerColumns);
+            expectSame(frozen->begin == makeIndex(rows.first, columns.first) &&
+                           frozen->size == Size2D<Number>(columns.second, rows.second),
+                       "frozen range", rows.first, columns.first);
         }
     }
 
