@@ -219,7 +219,8 @@ public:
     /// Raises the extent to at least so many rows and columns, but not past the limits of a table.
     void ensureSize(RowIndex rows, ColumnIndex columns);
     /// Makes the extent as small as its cells, styles, merged ranges, pivot tables and filter allow, but not smaller than
-    /// asked for and than (1, 1), and not greater than a table can be.
+    /// asked for and than (1, 1), and not greater than a table can be. Tombstones stay: before one behind the new extent is
+    /// restored, the extent must be raised to it again.
     CellIndex changeSize(RowIndex rows, ColumnIndex columns);
 
     // Identity.

@@ -9,7 +9,7 @@
 namespace QN::DOM {
 
 /// The rows and columns of a sheet that repeat as its headers, by identifier, so that they survive structural change.
-/// Each end of the two ranges may be absent.
+/// Each end of the two ranges may be absent. The order of the keys in a file is not that of the members.
 class DOM_API HeaderRowsCols {
 public:
     using RowRange = boost::optional<IDRange<boost::optional<RowID>>>;
