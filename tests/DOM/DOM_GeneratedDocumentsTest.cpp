@@ -1,6 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <set>
+#include <string>
+
 #include "DOM/DOM.h"
+#include "Support/ModelNames.h"
 #include "Support/RandomDocument.h"
 #include "Support/Randomize.h"
 #include "Support/RoundTrip.h"
@@ -11,10 +15,13 @@ namespace {
 
 constexpr std::uint64_t Documents = 10000;
 
-/// Mostly small documents, and now and then a large one.
+/// Every so many documents one is large, deep enough for the series of a chart in a frame of a run or of a table.
+constexpr std::uint64_t LargeEvery = 100;
+
+/// Mostly small documents, and now and then a larger one.
 int depthOf(std::uint64_t seed)
 {
-    return seed % 100 == 0 ? 4 : seed % 10 == 0 ? 3 : 2;
+    return seed % LargeEvery == 0 ? 8 : seed % 10 == 0 ? 4 : 2;
 }
 
 TEST(GeneratedDocumentsTest, LoadAsTheyWereSavedAndSaveToTheSameBytes)
@@ -26,6 +33,61 @@ TEST(GeneratedDocumentsTest, LoadAsTheyWereSavedAndSaveToTheSameBytes)
         loadJson(json, loaded);
         ASSERT_TRUE(loaded == document) << "seed " << seed;
         ASSERT_EQ(toJson(loaded), json) << "seed " << seed;
+    }
+}
+
+/// Takes the names of the classes that stand in a text out of those that are still to be found.
+void removeNamesOf(const std::string& json, std::set<std::string>& missing)
+{
+    static const std::string Key = R"("polymorphic_name":")";
+    for (std::size_t place = json.find(Key); place != std::string::npos; place = json.find(Key, place)) {
+        place += Key.size();
+        missing.erase(json.substr(place, json.find('"', place) - place));
+    }
+}
+
+TEST(GeneratedDocumentsTest, HoldEveryKindThatIsPersistedByName)
+{
+    std::set<std::string> missing = getModelNames();
+    for (std::uint64_t seed = LargeEvery; seed <= Documents && !missing.empty(); seed += LargeEvery) {
+        removeNamesOf(toJson(makeRandomDocument(seed, depthOf(seed))), missing);
+    }
+    EXPECT_EQ(missing, std::set<std::string>());
+}
+
+/// Whether an object has a second holder: what refers to an object that stands earlier in the text has its number alone,
+/// without the top bit.
+bool holdsSharedObject(const std::string& json)
+{
+    static const std::string Key = R"("id":)";
+    for (std::size_t place = json.find(Key); place != std::string::npos; place = json.find(Key, place)) {
+        place += Key.size();
+        const unsigned long id = std::stoul(json.substr(place, 10));
+        if (id != 0 && id < 0x80000000UL) {
+            return true;
+        }
+    }
+    return false;
+}
+
+TEST(GeneratedDocumentsTest, HoldObjectsWithOneHolderAndWithSeveral)
+{
+    int documentsWithSharing = 0;
+    for (std::uint64_t seed = 1; seed <= 100; ++seed) {
+        documentsWithSharing += holdsSharedObject(toJson(makeRandomDocument(seed, 3))) ? 1 : 0;
+    }
+    EXPECT_GT(documentsWithSharing, 10);
+}
+
+TEST(GeneratedDocumentsTest, StayAsTheyWereWhenTheirCopiesChange)
+{
+    for (std::uint64_t seed = 1; seed <= 500; ++seed) {
+        const DOM::Document document = makeRandomDocument(seed, 3);
+        const std::string json = toJson(document);
+        DOM::Document copy(document);
+        changeInPlace(copy, seed + Documents, 3);
+        ASSERT_EQ(toJson(document), json) << "seed " << seed;
+        ASSERT_NE(toJson(copy), json) << "seed " << seed;
     }
 }
 
