@@ -83,7 +83,7 @@ bool areDeeplyEqual(const Expr& left, const Expr& right)
     while (!pairs.empty()) {
         const auto [leftNode, rightNode] = pairs.back();
         pairs.pop_back();
-        if (!ComparisonDetails::areSameTypes(typeid(*leftNode), typeid(*rightNode)) ||
+        if (typeid(*leftNode) != typeid(*rightNode) ||
             !::QN::visit<bool>(*leftNode, NodeComparator{*rightNode, pairs})) {
             return false;
         }

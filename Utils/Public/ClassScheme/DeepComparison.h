@@ -2,7 +2,6 @@
 
 #include <compare>
 #include <cstddef>
-#include <cstring>
 #include <type_traits>
 #include <typeinfo>
 
@@ -54,18 +53,12 @@ public:
     }
 };
 
-/// Names that are one pointer mean one type; otherwise the texts decide, unless the first begins with `*`, which marks
-/// a type that is private to one library.
-inline bool areSameTypes(const std::type_info& left, const std::type_info& right)
-{
-    return left.name() == right.name() ||
-           (left.name()[0] != '*' && std::strcmp(left.name(), right.name()) == 0);
-}
-
 template <class Root>
 bool areDeeplyEqualInFamily(const Root& left, const Root& right)
 {
-    if (!areSameTypes(typeid(left), typeid(right))) {
+    // One pointer comparison for one type. Two libraries may each have a record of a type, which are told by their texts,
+    // but for types that are private to a library.
+    if (typeid(left) != typeid(right)) {
         return false;
     }
     SameHierarchyComparisonVisitor<AreDeeplyEqualComparator, Root, typename Root::Types> visitor(right);

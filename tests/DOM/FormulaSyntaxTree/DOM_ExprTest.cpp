@@ -30,7 +30,9 @@ std::vector<std::pair<std::string, Pointer>> makeNodes(TypeList<Ts...>, const st
 template <class Base, class Derived>
 void expectRelated()
 {
-    EXPECT_FALSE(cereal::detail::PolymorphicCasters::lookup(typeid(Base), typeid(Derived)).empty())
+    EXPECT_FALSE(cereal::detail::PolymorphicCasters::lookup(typeid(Base), typeid(Derived),
+                                                            cereal::detail::CastPurpose::Load)
+                     .empty())
         << typeid(Derived).name();
 }
 
@@ -94,7 +96,8 @@ TEST(ExprTest, EveryTypeIsRelatedToItsBases)
     expectAllRelated<BaseCompoundExpr>(UnaryOps{});
     expectAllRelated<BaseUnaryOp>(UnaryOps{});
     expectAllRelated<BaseBinaryOp>(BinaryOps{});
-    EXPECT_THROW(cereal::detail::PolymorphicCasters::lookup(typeid(BaseUnaryOp), typeid(Plus)),
+    EXPECT_THROW(cereal::detail::PolymorphicCasters::lookup(typeid(BaseUnaryOp), typeid(Plus),
+                                                            cereal::detail::CastPurpose::Load),
                  cereal::Exception);
 }
 

@@ -6,6 +6,7 @@
 #include <limits>
 #include <memory>
 #include <string>
+#include <typeinfo>
 #include <utility>
 #include <vector>
 
@@ -102,13 +103,21 @@ TEST(DeepComparisonTest, NaNIsUnequalToItselfBetweenTwoObjects)
     EXPECT_FALSE(areDeeplyEqual(Flat(NaN), Flat(NaN)));
 }
 
-TEST(DeepComparisonTest, TypeNamesDecideUnlessTheyArePrivate)
+/// What another library would hold for a type.
+struct TypeRecord : std::type_info {
+    explicit TypeRecord(const char* name) : std::type_info(name) {}
+};
+
+TEST(DeepComparisonTest, RecordsOfATypeAreToldByTheirTextsUnlessTheTypeIsPrivate)
 {
-    EXPECT_TRUE(QN::ComparisonDetails::areSameTypes(typeid(Word), typeid(Word)));
-    EXPECT_FALSE(QN::ComparisonDetails::areSameTypes(typeid(Word), typeid(Dot)));
-    struct Local {};
-    EXPECT_TRUE(QN::ComparisonDetails::areSameTypes(typeid(Local), typeid(Local)));
-    EXPECT_FALSE(QN::ComparisonDetails::areSameTypes(typeid(Local), typeid(Word)));
+    const std::string shared = "N2QN4WordE";
+    const std::string sameShared = shared;
+    EXPECT_TRUE(TypeRecord(shared.c_str()) == TypeRecord(sameShared.c_str()));
+    EXPECT_FALSE(TypeRecord(shared.c_str()) == TypeRecord("N2QN3DotE"));
+    const std::string secret = "*N2QN12_GLOBAL__N_14WordE";
+    const std::string sameSecret = secret;
+    EXPECT_TRUE(TypeRecord(secret.c_str()) == TypeRecord(secret.c_str()));
+    EXPECT_FALSE(TypeRecord(secret.c_str()) == TypeRecord(sameSecret.c_str()));
 }
 
 TEST(DeepComparisonTest, OrderLooksAtTheTypesFirstAndThenNotAtTheValues)
