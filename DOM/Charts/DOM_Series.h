@@ -37,7 +37,8 @@ public:
     Series& operator=(const Series&) = delete;
 
     /// Takes over all that is declared here, and nothing that a class of the family adds. Shares nothing with `other`:
-    /// the run properties are copied, too. `other` may be the series itself.
+    /// the run properties are copied, too, though their font and underline stay shared as in every copy of them.
+    /// `other` may be the series itself.
     void copyBaseProperties(const Series& other);
 
     unsigned long getIdx() const { return _idx; }

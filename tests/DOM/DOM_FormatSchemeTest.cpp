@@ -117,7 +117,10 @@ TEST(FormatSchemeTest, ACopySharesNothing)
     EXPECT_NE(copy.getEffects()[0], source.getEffects()[0]);
     EXPECT_NE(copy.getBackgroundFills()[0], source.getBackgroundFills()[0]);
     copy.getLinePropsContainer()[0]->setWidth(9.0F);
-    copy.getFills().clear();
+    dynamic_cast<SolidFill&>(*copy.getFills()[0]).setColor(Color());
+    copy.getFills().pop_back();
+    copy.getEffects().clear();
+    copy.getBackgroundFills()[0] = nullptr;
     EXPECT_EQ(source, makeScheme());
 }
 

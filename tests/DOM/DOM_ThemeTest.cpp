@@ -68,8 +68,13 @@ TEST(ThemeTest, ACopySharesNothing)
 {
     const Theme source = makeTheme();
     expectCopiesAndMoves(source);
-    const Theme copy = makeCopy(source);
+    Theme copy(source);
     EXPECT_NE(copy.getFormatScheme().getFills()[0], source.getFormatScheme().getFills()[0]);
+    copy.setName("other");
+    copy.setColorScheme({});
+    copy.setFontScheme({});
+    copy.setFormatScheme({});
+    EXPECT_EQ(source, makeTheme());
     static_assert(!Ordered<Theme>);
 }
 

@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "DOM/DOM.h"
-#include "DOM/FormulaSyntaxTree/SmallStack.h"
 #include "Support/RoundTrip.h"
+#include "Support/SmallStack.h"
 
 /// What may stand inside itself, down to the nesting limit of the archives: it is saved, loaded, copied and compared, one
 /// level more is refused, and letting go of it takes no more than a small stack.

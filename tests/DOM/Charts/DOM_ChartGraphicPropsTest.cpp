@@ -43,9 +43,13 @@ TEST(ChartGraphicProps, CopiesShareNothing)
 {
     ChartGraphicProps paint = makePaint();
     paint.setLineProps(std::make_unique<ThemeLineProps>());
-    const ChartGraphicProps copy(paint);
+    const std::string text = toText(paint);
+    ChartGraphicProps copy(paint);
     EXPECT_NE(copy.getFill(), paint.getFill());
     EXPECT_NE(copy.getLineProps(), paint.getLineProps());
+    dynamic_cast<ThemeLineProps&>(*copy.getLineProps()).setColor(Color());
+    copy.setFill(nullptr);
+    EXPECT_EQ(toText(paint), text);
 }
 
 TEST(ChartGraphicProps, OfTwoNullsArePresentAndDifferFromAbsence)

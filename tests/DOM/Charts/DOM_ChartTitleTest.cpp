@@ -72,8 +72,11 @@ TEST(ChartTitle, HoldsRichTextAsItsFirstAlternative)
     boost::get<TextWithTombstones>(*title.getText()).getBlocks().push_back(std::make_unique<Paragraph>());
     expectPersists(title);
     expectCopiesAndMoves(title);
-    const ChartTitle copy(title);
+    ChartTitle copy(title);
     EXPECT_EQ(boost::get<TextWithTombstones>(*copy.getText()).getBlocks().size(), 1U);
+    EXPECT_EQ(copy, title);
+    boost::get<TextWithTombstones>(*copy.getText()).getBlocks().clear();
+    EXPECT_EQ(boost::get<TextWithTombstones>(*title.getText()).getBlocks().size(), 1U);
 }
 
 TEST(ChartTitle, HoldsFormulasAsItsSecondAlternative)

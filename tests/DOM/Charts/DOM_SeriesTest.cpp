@@ -134,6 +134,7 @@ TEST(Series, TakesOverTheBaseOfAnotherClassAndSharesNothingWithIt)
     EXPECT_EQ(target.getMarker(), marker);
     EXPECT_NE(target.getRunProps(), source.getRunProps());
     EXPECT_TRUE(*target.getRunProps() == *source.getRunProps());
+    EXPECT_EQ(target.getRunProps().use_count(), 2) << "its own handle and the one asked for";
     ASSERT_EQ(target.getDataLabels().size(), 2U);
     EXPECT_NE(target.getDataLabels()[0].get(), &source.getDataLabels()[0]);
     EXPECT_EQ(target.getDataLabels()[1], nullptr);

@@ -90,6 +90,17 @@ TEST(PagePropsTest, EachKindOfFitSettingsPersistsUnderItsIndex)
     EXPECT_NE(withFit(fit), withFit(FitToPages()));
 }
 
+TEST(PagePropsTest, ACopySharesTheMarginsAndNothingElse)
+{
+    const PageProps source = makeFullPageProps();
+    PageProps copy(source);
+    EXPECT_EQ(copy.getMargins(), source.getMargins());
+    copy.setMargins(nullptr);
+    copy.setWidth(1.0F);
+    copy.setFitSettings(FitToPages());
+    EXPECT_EQ(source, makeFullPageProps());
+}
+
 TEST(PagePropsTest, OverrideMergesMarginsAndReplacesFitSettingsThatAreSaid)
 {
     PageProps target = makeFullPageProps();

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <string>
 #include <type_traits>
 
@@ -163,6 +164,19 @@ TEST(FrameTest, CopiesShowTheVerySameObjectAndCrop)
     changed.setGraphicalObject(makePicture("other"));
     changed.setCrop(nullptr);
     EXPECT_EQ(source, makeFullFrame());
+}
+
+TEST(FrameTest, TheVerySameObjectIsEqualToItselfEvenWhereItsContentIsNot)
+{
+    const auto makeSpace = [] {
+        auto space = std::make_unique<ChartSpace>();
+        space->setExtent(Size2D<float>(std::numeric_limits<float>::quiet_NaN(), 0.0F));
+        return space;
+    };
+    const Frame frame = makeFrame([&](Frame& changed) { changed.setGraphicalObject(makeSpace()); });
+    EXPECT_FALSE(*makeSpace() == *makeSpace());
+    EXPECT_EQ(makeCopy(frame), frame);
+    EXPECT_NE(makeFrame([&](Frame& changed) { changed.setGraphicalObject(makeSpace()); }), frame);
 }
 
 TEST(FrameTest, ObjectAndCropCompareByTheirContent)

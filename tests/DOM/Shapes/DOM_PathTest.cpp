@@ -94,8 +94,12 @@ TEST(Path, IsUnequalAsSoonAsOneMemberDiffers)
 TEST(Path, CopiesItsCommands)
 {
     const Path path = makePath();
-    const Path copy(path);
-    EXPECT_NE(&copy.getCommands()[0], &path.getCommands()[0]);
+    Path copy(path);
+    EXPECT_NE(copy.getCommands()[0].get(), &path.getCommands()[0]);
+    copy.getCommands()[0] = std::make_unique<LineTo>();
+    copy.getCommands().pop_back();
+    copy.setMinX(99);
+    EXPECT_EQ(path, makePath());
 }
 
 TEST(PathDeathTest, ReadingANullCommandFailsTheContract)

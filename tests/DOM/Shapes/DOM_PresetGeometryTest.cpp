@@ -46,5 +46,17 @@ TEST(PresetGeometry, ComparesTypeAndAdjustValues)
     EXPECT_NE(PresetGeometry("x"), adjusted);
 }
 
+TEST(PresetGeometry, AChangedCopyLeavesItsSourceAsItWas)
+{
+    PresetGeometry source("star5");
+    source.getAdjustValues().add("adj", 1.0);
+    const PresetGeometry before(source);
+    PresetGeometry copy(source);
+    copy.setType("cloud");
+    copy.getAdjustValues().add("adj", 2.0);
+    EXPECT_EQ(source, before);
+    EXPECT_EQ(source.getAdjustValues().find("adj"), 1.0);
+}
+
 } // namespace
 } // namespace QN::DOM::PresetGeometryTest

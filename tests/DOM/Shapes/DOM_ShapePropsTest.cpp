@@ -217,10 +217,15 @@ TEST(ShapePropsTest, ACopyClonesFillAndLineAndSharesThePadding)
     const ShapeProps source = makeFullProps();
     expectCopiesAndMoves(source);
     expectCopiesAndMoves(ShapeProps());
-    const ShapeProps copy = makeCopy(source);
+    ShapeProps copy(source);
     EXPECT_NE(copy.getFill(), source.getFill());
     EXPECT_NE(copy.getLineProps(), source.getLineProps());
     EXPECT_EQ(copy.getPadding(), source.getPadding());
+    copy.setFill(nullptr);
+    copy.setLineProps(makeLine(9.0F));
+    copy.setPadding(nullptr);
+    copy.setAnchor(boost::blank());
+    EXPECT_EQ(source, makeFullProps());
     ShapeProps assigned;
     assigned = source;
     EXPECT_NE(assigned.getFill(), source.getFill());

@@ -73,10 +73,13 @@ TEST(DrawingFormulasFormulasMap, CopiesItsFormulas)
 {
     FormulasMap source;
     source.add("a", value(1));
+    const std::string text = toText(source);
     FormulasMap copy(source);
     EXPECT_NE(copy.get(0), source.get(0));
-    copy.add("b", value(2));
-    EXPECT_EQ(source.size(), 1U);
+    copy.add("a", value(2));
+    EXPECT_EQ(numberOf(copy.find("a")), 2.0);
+    EXPECT_EQ(numberOf(source.find("a")), 1.0);
+    EXPECT_EQ(toText(source), text);
 }
 
 TEST(DrawingFormulasFormulasMapDeathTest, LoadsListsOfUnequalLengthAndFailsTheContractAtTheNextAdd)
