@@ -39,9 +39,11 @@ public:
     Validator& operator=(Validator&&) noexcept;
     ~Validator();
 
-    /// All that is wrong with a document: the broken rules in the order of the walk, and behind them the hazards, that is,
-    /// what is valid and yet stops some later operation. Never stops the process, whatever a file made of the document: null
-    /// blocks, runs and cells, unknown identifiers, caches that do not fit.
+    /// All broken rules in the order of the walk, and behind them the hazards: named styles that are valid and yet stop a
+    /// later look-up, by a predefined type that no style has, or by one under another `UUID` than its own.
+    ///
+    /// Never stops the process, whatever a file made of the document: null blocks, runs and cells, unknown identifiers,
+    /// caches that do not fit.
     static std::vector<Finding> collectFindings(const Document& document);
 
     void validate(const Document& document);

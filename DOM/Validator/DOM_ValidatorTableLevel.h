@@ -18,6 +18,10 @@ struct ValidatorWalk::TableLevel {
     {
     }
 
+    /// To the next cell that no earlier row holds as well. In a table that a file damaged, rows can share cells: each cell
+    /// is walked to once, so that the walk stays linear.
+    void goToNextCell();
+
     const Table& table;
     std::size_t addressSize;
     TableCellIt<const Table> position;

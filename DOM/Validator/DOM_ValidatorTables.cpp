@@ -27,6 +27,33 @@ bool holdsPivotTable(const Table& table, const TableRange& area)
 
 } // namespace
 
+void ValidatorWalk::TableLevel::goToNextCell()
+{
+    using Position = TableCellIt<const Table>;
+    const std::size_t chunk = position.getChunkIndex();
+    const std::size_t next = position.getDataIndex() + 1;
+    ++position;
+    while (!position.isAtEnd() && position.getChunkIndex() == chunk && position.getDataIndex() < next) {
+        const RowIndex row = position.getRowIndex();
+        const auto isBehindShared = [&](std::uint64_t column) {
+            const Position found(table, row, ColumnIndex(column));
+            return found.isAtEnd() || found.getRowIndex() != row || found.getDataIndex() >= next;
+        };
+        std::uint64_t begin = 0;
+        std::uint64_t end = MaxColumns + 1;
+        while (begin < end) {
+            const std::uint64_t middle = begin + (end - begin) / 2;
+            if (isBehindShared(middle)) {
+                end = middle;
+            } else {
+                begin = middle + 1;
+            }
+        }
+        position = isBehindShared(begin) ? Position(table, row, ColumnIndex(begin))
+                                         : Position(table, row + 1, ColumnIndex(0));
+    }
+}
+
 void ValidatorWalk::enter(const Table& table)
 {
     checkTable(table);
@@ -68,7 +95,7 @@ void ValidatorWalk::walkToNextCell()
     }
     const Cell* const cell = *level.position;
     const CellIndex index(level.position.getRowIndex(), level.position.getColIndex());
-    ++level.position;
+    level.goToNextCell();
 
     _address.appendItems(NodeAddressing::AddressInTable(index));
     if (!check(cell != nullptr, ValidatorRules::NoNullPointer)) {

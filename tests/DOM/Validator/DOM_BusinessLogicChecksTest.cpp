@@ -53,6 +53,15 @@ TEST(BusinessLogicChecksTest, OnlyTheFirstMergedRangeThatIsMetDecides)
     EXPECT_TRUE(isMergedRangeIntersectedAndOutOfRangeExists(table, makeRange(2, 9, 2, 9)));
 }
 
+TEST(BusinessLogicChecksTest, ACellBelowAMergedRangeInsideAnotherBelongsToNeither)
+{
+    Table table = makeGrid(9, 9);
+    table.setMergeProps(RowIndex(0), ColumnIndex(0), 8, 0);
+    table.setMergeProps(RowIndex(1), ColumnIndex(0), 1, 0);
+    EXPECT_TRUE(isMergedRangeIntersectedAndOutOfRangeExists(table, makeRange(2, 6, 0, 1)));
+    EXPECT_FALSE(isMergedRangeIntersectedAndOutOfRangeExists(table, makeRange(5, 6, 0, 1)));
+}
+
 /// Position by position, as it is defined.
 bool walkLogicalCells(const Table& table, const TableRange& range)
 {

@@ -502,6 +502,71 @@ TEST(ValidatorTablesTest, NoStoredCellIsNull)
                {setNull(0, 0), setNull(4, 4), setNull(2, 3)});
 }
 
+/// One chunk of null cells, each in a column of its own.
+Document makeDamagedDocument(std::size_t cells, std::vector<std::uint64_t> offsets)
+{
+    Document document;
+    auto table = std::make_unique<Table>(RowIndex(offsets.size()), ColumnIndex(cells));
+    TableChunk& chunk = getMember<std::vector<TableChunk>>(*table, "_chunks").front();
+    for (std::uint64_t column = 0; column < cells; ++column) {
+        chunk.data.emplace_back(nullptr, table->getID(ColumnIndex(column)));
+    }
+    chunk.rowDataOffsets = std::move(offsets);
+    document.getBlocks().push_back(std::move(table));
+    return document;
+}
+
+TEST(ValidatorTablesTest, ACellThatDamagedRowsShareIsValidatedInTheFirst)
+{
+    // The rows hold the cells 0 to 3, none, 2 to 5, none, and all.
+    const Document document = makeDamagedDocument(6, {0, 4, 2, 6, 0});
+    std::string addresses;
+    for (const Finding& finding : Validator::collectFindings(document)) {
+        EXPECT_EQ(finding.condition, "plainPtr");
+        addresses += finding.address.toString() + "\n";
+    }
+    EXPECT_EQ(addresses, "blocks[0]/cell(0, 0)\nblocks[0]/cell(0, 1)\nblocks[0]/cell(0, 2)\n"
+                         "blocks[0]/cell(0, 3)\nblocks[0]/cell(2, 4)\nblocks[0]/cell(2, 5)\n");
+}
+
+TEST(ValidatorTablesTest, DamagedRowsThatAllShareTheirCellsAreWalkedOnce)
+{
+    constexpr std::size_t Cells = 2000;
+    std::vector<std::uint64_t> offsets;
+    for (std::size_t row = 0; row < 20000; ++row) {
+        offsets.push_back(row % 2 == 0 ? 0 : Cells);
+    }
+    EXPECT_EQ(Validator::collectFindings(makeDamagedDocument(Cells, std::move(offsets))).size(), Cells);
+}
+
+TEST(ValidatorTablesTest, DamagedRowsWithoutOrderEndTheWalk)
+{
+    Document document = makeDamagedDocument(6, {0, 5, 0, 5, 1, 6, 0});
+    auto& data = getMember<std::vector<TableChunk>>(getSheet(document), "_chunks").front().data;
+    std::swap(data[0].colID, data[5].colID);
+    data[1].colID = ColumnID(99999999);
+    data[4].colID = ColumnID(0);
+    const std::size_t findings = Validator::collectFindings(document).size();
+    EXPECT_GE(findings, 5U);
+    EXPECT_LE(findings, 6U);
+}
+
+TEST(ValidatorTablesTest, DamagedRowsThatShareCellsBehindAllColumnsEndTheWalk)
+{
+    Document document = makeDamagedDocument(2, {0, 2, 0});
+    Table& table = getSheet(document);
+    getMember<IDToIndex>(getColIDs(table), "_idToIndex")[ColumnUID] = std::uint64_t{1} << 60U;
+    for (CellDataByCol& cell : getMember<std::vector<TableChunk>>(table, "_chunks").front().data) {
+        cell.colID = ColumnID(ColumnUID);
+    }
+    std::string conditions;
+    for (const Finding& finding : Validator::collectFindings(document)) {
+        conditions += std::string(finding.condition) + "\n";
+    }
+    EXPECT_EQ(conditions, "it != _insertedItems.end() && it->index == index && it->id == id\n"
+                          "plainPtr\nplainPtr\n");
+}
+
 TEST(ValidatorTablesTest, ATableInACellIsValidatedAsAnyOther)
 {
     Document document = makeSheetDocument();

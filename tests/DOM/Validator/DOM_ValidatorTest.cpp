@@ -331,6 +331,8 @@ TEST(ValidatorTest, AValidatorRemembersTablesAndScopesFromCallToCall)
     std::vector<std::unique_ptr<Block>> blocks;
     blocks.push_back(makeListParagraph('1'));
     validator.validateRootBlocks(blocks);
+    Validator moved(std::move(validator));
+    validator = std::move(moved);
     EXPECT_DEATH(validator.validateRootBlocks(blocks), "DOM_Validator:305: it == tmpListTags.end");
     Validator().validateRootBlocks(blocks);
 }
