@@ -91,9 +91,10 @@ void forEachValue(Value& value, const std::function<void(Value& inner)>& visit)
             forEachValue(element, visit);
         }
     } else if (value.IsObject()) {
-        for (auto& member : value.GetObject()) {
-            visit(member.value);
-            forEachValue(member.value, visit);
+        for (rapidjson::SizeType place = 0; place < value.MemberCount(); ++place) {
+            Value& member = value.MemberBegin()[static_cast<std::ptrdiff_t>(place)].value;
+            visit(member);
+            forEachValue(member, visit);
         }
     }
 }
