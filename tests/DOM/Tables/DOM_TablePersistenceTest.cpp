@@ -183,6 +183,25 @@ TEST(DOM_TablePersistence, JudgesNoOffsets)
     EXPECT_EQ(getOffsets(table, 0), (std::vector<std::uint64_t>{9, 3, 18446744073709551615U, 0}));
 }
 
+TEST(DOM_TablePersistence, TakesRowsBehindTheLiveOnesWhichAreNotWalkedOver)
+{
+    std::string json = toJson(makeGrid(4, 1, 2));
+    const std::string count = R"("_rowsCount":4)";
+    json.replace(json.find(count), count.size(), R"("_rowsCount":2)");
+    auto table = fromJson<Table>(json);
+    EXPECT_EQ(toJson(table), json);
+    EXPECT_EQ(getNumber(table, 3, 0), 30.0);
+    std::vector<double> walked;
+    for (const Cell* const cell : std::as_const(table).getTableIterators()) {
+        walked.push_back(getNumber(cell));
+    }
+    EXPECT_EQ(walked, (std::vector{0.0, 10.0}));
+    EXPECT_TRUE(table.removeRow(RowIndex(2)).cells.empty());
+    EXPECT_EQ(table.changeSize(RowIndex(0), ColumnIndex(0)), makeIndex(2, 1));
+    table.insertRow({{}, {}, RowID(5'000'000'000)}, RowIndex(2));
+    EXPECT_EQ(getNumber(table, 4, 0), 30.0);
+}
+
 TEST(DOM_TablePersistence, RefusesAnEmptyMergedRange)
 {
     std::string json = makeJson(OneChunk);

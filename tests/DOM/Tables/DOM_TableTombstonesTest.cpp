@@ -251,6 +251,30 @@ TYPED_TEST(DOM_TableTombstones, GiveNoIdentifierWhenTheyWereNotRememberedForOne)
     EXPECT_EQ(TypeParam::countAll(table), 3U);
 }
 
+TYPED_TEST(DOM_TableTombstones, OutlastTheExtentAndNeedItRaisedAgainToBeRestored)
+{
+    Table table(RowIndex(9), ColumnIndex(9));
+    auto removed = TypeParam::replace(table, 7);
+    table.changeSize(RowIndex(3), ColumnIndex(3));
+    EXPECT_EQ(TypeParam::countLive(table), 3U);
+    EXPECT_EQ(TypeParam::countAll(table), 4U);
+    EXPECT_EQ(TypeParam::resolve(table, 8, false), typename TypeParam::Index(7));
+    table.ensureSize(RowIndex(7), ColumnIndex(7));
+    TypeParam::restore(table, std::move(removed), 7);
+    EXPECT_EQ(this->getIDs(table), (IDs{1, 2, 3, 4, 5, 6, 7, 8}));
+}
+
+TEST(DOM_TableTombstonesDeathTest, AreNotRestoredBehindTheExtent)
+{
+    Table table(RowIndex(9), ColumnIndex(9));
+    table.replaceRowWithTombstone(Position(7));
+    table.replaceColWithTombstone(Position(7));
+    table.changeSize(RowIndex(3), ColumnIndex(3));
+    EXPECT_DEATH(table.restoreRow({{}, {}, RowID(8)}, Position(7)), R"(position\.get\(\) <= _rowsCount)");
+    EXPECT_DEATH(table.restoreColumn({{}, {}, ColumnID(8)}, Position(7)),
+                 R"(position\.get\(\) <= _colsCount)");
+}
+
 TEST(DOM_TableRangeAmongTombstones, ShrinksFromBothEndsAndGrowsBack)
 {
     Table table = makeGrid(5, 5);
