@@ -293,6 +293,37 @@ TEST(ValidatorTablesTest, NoStoredCellIsNull)
                {setNull(0, 0), setNull(4, 4), setNull(2, 3)});
 }
 
+TEST(ValidatorTablesTest, ANullBlockBesideAValueBreaksTwoRules)
+{
+    Document document = makeSheetDocument();
+    auto& blocks = getCell(document, 1, 1).getRawBlocks();
+    blocks.insert(blocks.begin(), nullptr);
+    const auto findings = Validator::collectFindings(document);
+    ASSERT_EQ(findings.size(), 2U) << getTexts(findings);
+    EXPECT_EQ(findings[0].condition, "plainPtr");
+    EXPECT_EQ(findings[0].address.toString(), getCellAddress(1, 1) + "/blocks[0]");
+    EXPECT_EQ(findings[1].line, 235);
+    EXPECT_EQ(findings[1].address.toString(), getCellAddress(1, 1));
+    expectBothWaysAgree(document);
+}
+
+TEST(ValidatorTablesTest, TheCellsOfAllChunksAreValidated)
+{
+    Document document;
+    document.getBlocks().push_back(std::make_unique<Table>(makeGrid(9, 9, 4)));
+    expectValid(document);
+    std::string addresses;
+    for (std::uint64_t row = 0; row < 9; ++row) {
+        getCell(document, row, row).getRawBlocks().push_back(nullptr);
+        addresses += getCellAddress(row, row) + "/blocks[1]\n" + getCellAddress(row, row) + "\n";
+    }
+    std::string found;
+    for (const Finding& finding : Validator::collectFindings(document)) {
+        found += finding.address.toString() + "\n";
+    }
+    EXPECT_EQ(found, addresses);
+}
+
 TEST(ValidatorTablesTest, ATableInACellIsValidatedAsAnyOther)
 {
     Document document = makeSheetDocument();
