@@ -13,7 +13,7 @@
 #include "Support/ValueText.h"
 #include "Utils/Public/Archive/PolymorphicRegistry.h"
 
-/// Objects of all classes that are registered: each goes through pointers to its family, under its name, and is copied.
+/// Objects of all classes that are registered: each goes through pointers to its family, under its name.
 
 namespace QN::DOM::RegisteredNamesTest {
 namespace {
@@ -183,40 +183,6 @@ TEST(RegisteredNamesTest, DrawingFormulasStandUnderTheirs)
     expectFamily<Expression>(TypeList<Value, Reference<ReferenceType{0}>, Reference<ReferenceType{1}>,
                                       Constant, UnaryFunction, BinaryFunction, IfFunction>{},
                              DrawingFormulaNames);
-}
-
-/// Changes every clone where it stands, and looks at the object that it was cloned from.
-template <class Root>
-void expectCopiesToOwnWhatTheyHold()
-{
-    for (std::uint64_t seed = 1; seed <= 20; ++seed) {
-        for (const auto& object : makeOneOfEachKind<Root>(seed)) {
-            SCOPED_TRACE(typeid(*object).name() + std::string(", seed ") + std::to_string(seed));
-            const std::string text = toText(object);
-            std::unique_ptr<Root> copy;
-            object->cloneTo(copy);
-            EXPECT_EQ(toText(copy), text);
-            changeInPlace(*copy, seed + 1000);
-            EXPECT_EQ(toText(object), text);
-        }
-    }
-}
-
-TEST(RegisteredNamesTest, AChangedCopyOfAnyKindLeavesItsSourceAsItWas)
-{
-    expectCopiesToOwnWhatTheyHold<Chart>();
-    expectCopiesToOwnWhatTheyHold<ChartAxis>();
-    expectCopiesToOwnWhatTheyHold<Series>();
-    expectCopiesToOwnWhatTheyHold<Block>();
-    expectCopiesToOwnWhatTheyHold<GraphicalObject>();
-    expectCopiesToOwnWhatTheyHold<Fill>();
-    expectCopiesToOwnWhatTheyHold<LineProps>();
-    expectCopiesToOwnWhatTheyHold<Geometry>();
-    expectCopiesToOwnWhatTheyHold<TableFilter>();
-    expectCopiesToOwnWhatTheyHold<DOM::Run>();
-    expectCopiesToOwnWhatTheyHold<FormulaSyntaxTree::Expr>();
-    expectCopiesToOwnWhatTheyHold<DrawingCommands::PathCommand>();
-    expectCopiesToOwnWhatTheyHold<DrawingFormulas::Expression>();
 }
 
 } // namespace
