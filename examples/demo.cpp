@@ -7,6 +7,7 @@
 #include <iterator>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "DOM/DOM.h"
 #include "demo/Banner.h"
@@ -67,19 +68,21 @@ Document import(const path& text, const path& csv)
     Document document;
     appendPredefinedEntities(document);
     setDefaultThemeIfNeeded(document);
-    document.getProps().setTitle(text.stem().string() + " and " + csv.stem().string());
+    document.getProps().setTitle(text.stem().string());
     Demo::setUpPages(document);
 
     Demo::importText(readFile(text), text.parent_path(), document);
     const std::size_t paragraphsCount = document.getBlocks().size();
-    const std::string summary = std::to_string(paragraphsCount) + " paragraphs";
-    Demo::insertBanner(document, std::min<std::size_t>(paragraphsCount, 2), summary);
-    std::cout << "imported " << text.filename().string() << ": " << summary << '\n';
+    std::cout << "imported " << text.filename().string() << ": " << paragraphsCount << " paragraphs\n";
 
     Table& sheet = Demo::importCsv(readFile(csv), csv.stem().string(), document);
     Demo::addChart(sheet);
-    std::cout << "imported " << csv.filename().string() << ": " << sheet.getLiveRowsCount().get() << " rows, "
-              << sheet.getLiveColsCount().get() << " columns\n";
+    std::cout << "imported " << csv.filename().string() << ": " << sheet.getLiveRowsCount().get()
+              << " rows of " << sheet.getLiveColsCount().get() << " columns\n";
+
+    const std::string summary = std::to_string(paragraphsCount) + " paragraphs and " +
+                                std::to_string(sheet.getLiveRowsCount().get()) + " rows";
+    Demo::insertBanner(document, std::min<std::size_t>(paragraphsCount, 2), summary);
     return document;
 }
 
@@ -103,23 +106,23 @@ void editText(Document& document)
     using QN::CollaborationUtils::IndexExcludingTombstones;
     auto& blocks = document.getBlocks();
     auto& tombstones = document.getTextWithTombstones().getTombstones();
-    std::size_t removed = blocks.size();
-    std::size_t last = 0;
+    std::vector<std::size_t> plain;
     for (std::size_t i = 0; i < blocks.size(); ++i) {
         const auto* const paragraph = dynamic_cast<const Paragraph*>(blocks[i].get());
         if (paragraph != nullptr && !paragraph->getSharedStyle()) {
-            removed = std::min(removed, i);
-            last = i;
+            plain.push_back(i);
         }
     }
-    if (removed == blocks.size()) {
+    if (plain.empty()) {
         return;
     }
     auto added = std::make_unique<Paragraph>();
     added->getRuns().push_back(std::make_unique<TextRun>("This was written into the loaded document."));
+    const std::size_t last = plain.back();
     tombstones.insertElement(tombstones.convertIndex(IndexExcludingTombstones(last)) + 1);
     blocks.insert(blocks.begin() + static_cast<std::ptrdiff_t>(last) + 1, std::move(added));
 
+    const std::size_t removed = plain[plain.size() / 2];
     tombstones.replaceWithTombstone(tombstones.convertIndex(IndexExcludingTombstones(removed)));
     blocks.erase(blocks.begin() + static_cast<std::ptrdiff_t>(removed));
 }
@@ -142,6 +145,7 @@ bool run(const path& text, const path& csv, const path& folder)
     isGood = !(loaded == document) && Demo::validate(loaded, std::cout) && isGood;
     Document edited;
     isGood = isEqualAfterRoundTrip(loaded, folder / "edited.json", edited) && isGood;
+    Demo::clean(edited, std::cout);
 
     const path page = folder / "document.html";
     std::ofstream stream = openForWriting(page);

@@ -215,7 +215,7 @@ private:
         std::string text;
         if (title != nullptr && title->getText()) {
             if (const auto* const literal = boost::get<QN::DOM::TextWithTombstones>(&*title->getText())) {
-                return Demo::getText(literal->getBlocks());
+                return getTextFromParagraphs(literal->getBlocks());
             }
             for (const CellIndex& cell :
                  findCells(boost::get<std::vector<Formula>>(*title->getText()), _table)) {

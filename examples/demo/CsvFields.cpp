@@ -89,6 +89,7 @@ CsvField readField(const std::string& text)
 void CsvColumn::add(const CsvField& field, const std::string& text)
 {
     texts += field.kind == CsvField::Kind::Text ? 1 : 0;
+    bools += field.kind == CsvField::Kind::Bool ? 1 : 0;
     numbers += field.kind == CsvField::Kind::Number ? 1 : 0;
     dates += field.kind == CsvField::Kind::Date ? 1 : 0;
     formulas += field.kind == CsvField::Kind::Formula ? 1 : 0;

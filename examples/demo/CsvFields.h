@@ -29,8 +29,10 @@ struct CsvColumn {
 
     bool isOfNumbers() const { return numbers != 0 && texts == 0 && dates == 0; }
     bool isOfDates() const { return dates != 0 && texts == 0 && numbers == 0; }
+    bool isOfBools() const { return bools != 0 && texts == 0 && numbers == 0 && dates == 0; }
 
     std::size_t texts = 0;
+    std::size_t bools = 0;
     std::size_t numbers = 0;
     std::size_t dates = 0;
     std::size_t formulas = 0;

@@ -11,7 +11,6 @@
 #include "Formulas.h"
 #include "SheetFormats.h"
 #include "SheetLayout.h"
-#include "Text.h"
 
 namespace Demo {
 
@@ -166,7 +165,9 @@ private:
         for (ColumnIndex index; index.get() < _columns.size(); ++index) {
             const CsvColumn& column = _columns[index.get()];
             const bool isText = column.texts != 0;
-            const Alignment alignment = isText ? Alignment::Left : Alignment::Right;
+            const Alignment alignment = isText               ? Alignment::Left
+                                        : column.isOfBools() ? Alignment::Center
+                                                             : Alignment::Right;
             setStyle(CellIndex(_header, index), makeHeaderStyle(alignment));
 
             ColumnProps props;
@@ -240,7 +241,7 @@ private:
             std::vector<std::string> texts;
             for (RowIndex row = _header + 1; row <= _lastRow && texts.size() <= MaxTexts; ++row) {
                 const Cell* const cell = std::as_const(_table).getCell(row, column);
-                const std::string text = cell != nullptr ? Demo::getText(cell->getRawBlocks()) : "";
+                const std::string text = cell != nullptr ? getTextFromParagraphs(cell->getRawBlocks()) : "";
                 if (std::find(texts.begin(), texts.end(), text) == texts.end()) {
                     texts.push_back(text);
                 }
@@ -268,23 +269,12 @@ private:
     RowIndex _lastRow;
 };
 
-/// A name that a sheet can have: some characters are not for it.
-std::string makeSheetName(std::string name)
-{
-    for (char& c : name) {
-        if (std::string_view(":\\/?*[]'").find(c) != std::string_view::npos) {
-            c = '_';
-        }
-    }
-    return name;
-}
-
 } // namespace
 
 Table& importCsv(std::string_view text, const std::string& title, Document& document)
 {
     auto table = std::make_unique<Table>();
-    table->setName(makeSheetName(title));
+    table->setName(fixTableNameIfNeed(title));
     SheetBuilder(document, *table).build(readCsv(text), title);
     Table& imported = *table;
     document.getBlocks().push_back(std::move(table));

@@ -18,8 +18,8 @@ using namespace QN::DOM;
 
 constexpr const char* PageCss =
     R"(body{margin:0;padding:1.5em 0;background:#e6e6e1;font-family:Charter,Palatino,Georgia,serif}
-.page{box-sizing:border-box;max-width:60em;margin:0 auto 1.5em;padding:1.6em 3.2em 1.2em;background:#fff;box-shadow:0 1px 4px #0003}
-.text{padding-left:7em;padding-right:7em}
+.page{box-sizing:border-box;max-width:75em;margin:0 auto 1.5em;padding:1.6em 2em 1.2em;background:#fff;box-shadow:0 1px 4px #0003}
+.text{max-width:60em;padding-left:7em;padding-right:7em}
 header,footer{font-family:'Helvetica Neue',Arial,sans-serif;border-color:#ccc;border-style:solid;border-width:0}
 header{border-bottom-width:1px;margin-bottom:2em;padding-bottom:.4em}
 footer{border-top-width:1px;margin-top:2em;padding-top:.6em}
@@ -27,9 +27,9 @@ p,h1,h2,h3,h4,h5{margin:0 0 .55em 0;line-height:1.45;font-weight:inherit;tab-siz
 h1,h2,h3{margin-top:1.1em;margin-bottom:.4em}
 header p,footer p{margin:0}
 img{display:block;max-width:100%;margin:.8em auto .4em}
-.item{position:relative}
+.item{position:relative;margin-bottom:.2em}
+.item + :not(.item){margin-top:.55em}
 .marker{position:absolute;left:-18pt}
-.marker + *{text-indent:0}
 .shape{position:relative;width:max-content;margin:1.2em auto 1.8em}
 .shape svg{display:block}
 .shape div{position:absolute;inset:0;display:flex;flex-direction:column;justify-content:center;text-align:center}

@@ -83,16 +83,15 @@ NumberFormatType getType(const NumberingLevel& level)
 std::unique_ptr<NumberingRef> makeNumberingRef(const Document& document, NumberedListName name,
                                                const UUID& tag, unsigned long level)
 {
-    for (const NumberedList& list : document.getNumLists()) {
-        if (list.getName() == name) {
-            auto ref = std::make_unique<NumberingRef>();
-            ref->setListTagUUID(ListTagUUID(tag));
-            ref->setNumListUUID(NumListUUID(list.getUUID()));
-            ref->setLevel(level);
-            return ref;
-        }
+    const NumberedList* const list = getListByName(document.getNumLists(), name);
+    if (list == nullptr) {
+        throw std::runtime_error("the document lacks a predefined list");
     }
-    throw std::runtime_error("the document lacks a predefined list");
+    auto ref = std::make_unique<NumberingRef>();
+    ref->setListTagUUID(ListTagUUID(tag));
+    ref->setNumListUUID(NumListUUID(list->getUUID()));
+    ref->setLevel(level);
+    return ref;
 }
 
 const NumberedList* ListMarkers::findList(const NumberingRef& ref) const

@@ -73,6 +73,7 @@ CellStyle makeTitleStyle()
 {
     CellStyle style;
     style.setCellProps(makeCellProps(boost::none));
+    style.setParaProps(makeParaProps(Alignment::Left));
     style.setRunProps(makeRunProps(true, 14.0F, Color(ThemeColorId::Dark2)));
     return style;
 }

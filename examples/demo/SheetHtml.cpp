@@ -15,13 +15,14 @@
 namespace Demo {
 
 const char* const SheetCss =
-    R"(.sheet{overflow-x:auto;font-family:'Helvetica Neue',Arial,sans-serif;font-size:8.5pt}
+    R"(.sheet{overflow-x:auto;font-family:'Helvetica Neue',Arial,sans-serif;font-size:8pt}
 .sheet table{border-collapse:collapse;font-variant-numeric:tabular-nums}
-.sheet td,.sheet th{border:1px solid #dcdcd6;padding:2.5px 6px;white-space:nowrap}
+.sheet td,.sheet th{border:1px solid #dcdcd6;padding:2.5px 5px;white-space:nowrap}
 .sheet td{max-width:13em;overflow:hidden;text-overflow:ellipsis}
 .sheet th{background:#f3f3ef;color:#8a8a82;font-weight:normal;text-align:center}
 .sheet .kept{color:#2a6fb0}
-.sheet .title{padding:7px 6px}
+.sheet .title{padding:7px 5px}
+.sheet .name{white-space:normal;vertical-align:bottom}
 .note{font:9pt 'Helvetica Neue',Arial,sans-serif;color:#77776f;margin:.8em 0 1.4em}
 .chart{width:100%;font-family:'Helvetica Neue',Arial,sans-serif;margin-bottom:1em}
 .chart-title{font-size:13px;font-weight:bold;fill:#1f497d}
@@ -154,6 +155,8 @@ private:
         }
         if (cell == CellIndex()) {
             _out << " class=\"title\"";
+        } else if (_layout && cell.getRow() == _layout->header) {
+            _out << " class=\"name\"";
         }
         const std::string css = getCss(stored, cell);
         if (!css.empty()) {

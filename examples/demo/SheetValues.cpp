@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "Formulas.h"
-#include "Text.h"
 
 namespace Demo {
 
@@ -87,8 +86,8 @@ public:
         std::vector<double> numbers;
         for (const ExprPtr& argument : call.getArgs()) {
             if (const auto* const range = dynamic_cast<const CellRange*>(argument.get())) {
-                if (!collect(*range, numbers)) {
-                    return FormulaError{"#REF!"};
+                if (const auto error = collect(*range, numbers)) {
+                    return *error;
                 }
             } else {
                 const Value value = toNumber(_values.evaluate(*argument));
@@ -140,14 +139,15 @@ private:
         return toFinite(operation(std::get<double>(left), std::get<double>(right)));
     }
 
-    /// The numbers among the cells of a range, which loses removed rows and columns at its ends and lives on.
-    bool collect(const CellRange& range, std::vector<double>& numbers) const
+    /// Adds the numbers among the cells of a range, which loses removed rows and columns at its ends and lives on.
+    /// @return the first error among them.
+    boost::optional<FormulaError> collect(const CellRange& range, std::vector<double>& numbers) const
     {
         const auto rows = _table.resolveRange(range.getBeginRow().getID(), range.getLastRow().getID());
         const auto columns =
             _table.resolveRange(range.getBeginColumn().getID(), range.getLastColumn().getID());
         if (!rows || !columns || !isThisTable(range.getFirstTableAddress())) {
-            return false;
+            return FormulaError{"#REF!"};
         }
         const QN::TableRange cells(rows->first, rows->second + 1, columns->first, columns->second + 1);
         const auto its = _table.getRangeIterators(cells);
@@ -155,9 +155,11 @@ private:
             const Value value = _values.get(it.getRowIndex(), it.getColIndex());
             if (const double* const number = std::get_if<double>(&value)) {
                 numbers.push_back(*number);
+            } else if (const auto* const error = std::get_if<FormulaError>(&value)) {
+                return *error;
             }
         }
-        return true;
+        return boost::none;
     }
 
     static Value apply(Function function, const std::vector<double>& numbers)
@@ -204,7 +206,7 @@ Value SheetValues::get(RowIndex row, ColumnIndex column)
     const QN::DOM::Formula* const formula = cell->getFormula();
     if (formula == nullptr) {
         const auto blocks = cell->getRawBlocks();
-        return blocks.empty() ? Value() : Value(getText(blocks));
+        return blocks.empty() ? Value() : Value(QN::DOM::getTextFromParagraphs(blocks));
     }
     const QN::CellIndex index(row, column);
     const auto known = _formulas.find(index);

@@ -70,18 +70,4 @@ std::string toBase64(std::string_view bytes)
     return text;
 }
 
-std::string getText(const QN::ReadonlyPtrVector<QN::DOM::Block>& blocks)
-{
-    std::string text;
-    for (const QN::DOM::Block& block : blocks) {
-        if (const auto* const paragraph = dynamic_cast<const QN::DOM::Paragraph*>(&block)) {
-            text += text.empty() ? "" : "\n";
-            for (const QN::DOM::Run& run : paragraph->getRuns()) {
-                text += run.getText();
-            }
-        }
-    }
-    return text;
-}
-
 } // namespace Demo

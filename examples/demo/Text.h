@@ -21,7 +21,4 @@ std::string escapeHtml(std::string_view text);
 /// For `data:` addresses.
 std::string toBase64(std::string_view bytes);
 
-/// The text of the paragraphs among some blocks, one below the other.
-std::string getText(const QN::ReadonlyPtrVector<QN::DOM::Block>& blocks);
-
 } // namespace Demo

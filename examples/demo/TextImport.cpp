@@ -36,7 +36,11 @@ public:
             return;
         }
         if (takeHeadingMark(line, level)) {
-            makeHeading(*paragraph, level);
+            if (level == 1 && _document.getBlocks().empty()) {
+                makeTitle(*paragraph, line);
+            } else {
+                makeHeading(*paragraph, level);
+            }
         } else if (takeItemMark(line, level)) {
             paragraph->getNumRef() =
                 makeNumberingRef(_document, NumberedListName::FilledCircleBullets, _bulletsTag, level);
@@ -77,13 +81,15 @@ private:
         return true;
     }
 
+    void makeTitle(Paragraph& paragraph, std::string_view line)
+    {
+        _hasTitle = true;
+        _document.getProps().setTitle(std::string(line));
+        setParent(paragraph, PredefinedStyleName::Title);
+    }
+
     void makeHeading(Paragraph& paragraph, std::size_t level)
     {
-        if (level == 1 && _document.getBlocks().empty()) {
-            _hasTitle = true;
-            setParent(paragraph, PredefinedStyleName::Title);
-            return;
-        }
         level -= _hasTitle && level > 1 ? 1 : 0;
         setParent(paragraph, static_cast<PredefinedStyleName>(level));
         paragraph.getNumRef() =
@@ -97,7 +103,7 @@ private:
         paragraph.getSharedStyle() = _document.getSharedObjectFactory().create(std::move(style));
     }
 
-    /// Columns for lines that have tabs between their words.
+    /// Columns for lines that have tabs between their words, close to each other.
     void setTabStops(Paragraph& paragraph)
     {
         constexpr float Distance = 108.0F;
@@ -109,6 +115,7 @@ private:
         }
         ParaProps props;
         props.setTabStops(std::move(stops));
+        props.setAfterSpacing(SpacingValue(1.0F));
         ParagraphStyle style;
         style.setParaProps(std::make_shared<const ParaProps>(std::move(props)));
         paragraph.getSharedStyle() = _document.getSharedObjectFactory().create(std::move(style));

@@ -19,6 +19,17 @@ void list(const std::vector<Finding>& findings, std::ostream& report)
     }
 }
 
+/// The removed paragraphs, rows and columns whose places are still known.
+std::uint64_t countTombstones(const Document& document)
+{
+    std::uint64_t count = document.getTextWithTombstones().getTombstones().getTombstonesCount();
+    if (const Table* const sheet = findSheet(document)) {
+        count += sheet->getAllRowsCount().get() - sheet->getLiveRowsCount().get();
+        count += sheet->getAllColsCount().get() - sheet->getLiveColsCount().get();
+    }
+    return count;
+}
+
 } // namespace
 
 bool validate(const Document& document, std::ostream& report)
@@ -50,6 +61,14 @@ void validateBroken(Document copy, std::ostream& report)
     const std::vector<Finding> findings = Validator::collectFindings(copy);
     report << "broke    a copy of it in a few places, for the validator to find:\n";
     list(findings, report);
+}
+
+void clean(Document copy, std::ostream& report)
+{
+    const std::uint64_t before = countTombstones(copy);
+    cleanDOM(copy, DOMCleanType::Tombstones);
+    report << "cleaned  a copy of it: " << before << " tombstones before, " << countTombstones(copy)
+           << " after\n";
 }
 
 } // namespace Demo

@@ -13,4 +13,7 @@ bool validate(const QN::DOM::Document& document, std::ostream& report);
 /// Breaks a copy of a document in a few places and lists what validation finds.
 void validateBroken(QN::DOM::Document copy, std::ostream& report);
 
+/// Takes the state of collaborative editing off a copy of a document, and tells what went.
+void clean(QN::DOM::Document copy, std::ostream& report);
+
 } // namespace Demo
