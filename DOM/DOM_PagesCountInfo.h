@@ -13,7 +13,7 @@ namespace QN::DOM {
 class DOM_API PagesCountInfo {
 public:
     PagesCountInfo() = default;
-    explicit PagesCountInfo(boost::optional<NumberFormatType>&& type) : _numberFormatType(std::move(type)) {}
+    explicit PagesCountInfo(boost::optional<NumberFormatType>&& type) : _numberFormatType(type) {}
 
     /// How the number is written; none leaves it to the page.
     const boost::optional<NumberFormatType>& getNumberFormatType() const { return _numberFormatType; }

@@ -9,7 +9,8 @@
 ///
 /// The tombstones of every text go, whatever the flags; what the flags say is done to every table, also to those in the cells
 /// of others. What stands in shapes and in frames, comments and notes is left alone. A walk is linear and does not recurse
-/// over nested tables; null blocks and cells are passed over.
+/// over nested tables; null blocks and cells are passed over, while a pair
+/// of a loaded document without its header or footer breaks the contract of `getHeader`: validate first.
 namespace QN::DOM {
 
 class Block;
