@@ -4,6 +4,7 @@
 #include <boost/variant/get.hpp>
 
 #include <type_traits>
+#include <typeinfo>
 #include <utility>
 
 #include "DOM/DOM_FieldBlock.h"
@@ -56,11 +57,22 @@ bool containsFormulaValueType(const Cell::Data& data)
     return boost::apply_visitor(ContainsFormulaValueType<TrueTypes, FalseTypes>{}, data);
 }
 
-template <class T>
-const T* getAlternative(const Cell::Data& data)
+/// The field block that a cell consists of; null for other content. The class is final: its type is told without a walk
+/// over its bases, which reading a column of numbers would feel.
+const FieldBlock* getSingleField(const TextBlocks& blocks)
 {
-    const auto* const value = boost::get<const T*>(&data);
-    return value != nullptr ? *value : nullptr;
+    if (blocks.size() != 1) {
+        return nullptr;
+    }
+    const Block& block = blocks[0];
+    return typeid(block) == typeid(FieldBlock) ? static_cast<const FieldBlock*>(&block) : nullptr;
+}
+
+template <class T>
+const T* getAlternative(const TextBlocks& blocks)
+{
+    const FieldBlock* const field = getSingleField(blocks);
+    return field != nullptr ? boost::get<T>(&field->getFieldInfo()) : nullptr;
 }
 
 } // namespace
@@ -85,10 +97,8 @@ Cell::Cell(const Cell& other, CopyStrategy strategy)
 Cell::Data Cell::getCellData() const
 {
     const auto blocks = getRawBlocks();
-    if (blocks.size() == 1) {
-        if (const auto* const field = dynamic_cast<const FieldBlock*>(&blocks[0])) {
-            return boost::apply_visitor(ToCellData{blocks}, field->getFieldInfo());
-        }
+    if (const FieldBlock* const field = getSingleField(blocks)) {
+        return boost::apply_visitor(ToCellData{blocks}, field->getFieldInfo());
     }
     return blocks;
 }
@@ -104,27 +114,27 @@ boost::optional<ReadonlyPtrVector<Block>> Cell::getTextBlocks() const
 
 const Formula* Cell::getFormula() const
 {
-    return getAlternative<Formula>(getCellData());
+    return getAlternative<Formula>(getRawBlocks());
 }
 
 const ArrayFormulaShift* Cell::getArrayFormulaShift() const
 {
-    return getAlternative<ArrayFormulaShift>(getCellData());
+    return getAlternative<ArrayFormulaShift>(getRawBlocks());
 }
 
 const BlockValue<FloatNumber>* Cell::getNumberValue() const
 {
-    return getAlternative<BlockValue<FloatNumber>>(getCellData());
+    return getAlternative<BlockValue<FloatNumber>>(getRawBlocks());
 }
 
 const BlockValue<FormulaErrorType>* Cell::getErrorValue() const
 {
-    return getAlternative<BlockValue<FormulaErrorType>>(getCellData());
+    return getAlternative<BlockValue<FormulaErrorType>>(getRawBlocks());
 }
 
 const BlockValue<bool>* Cell::getBoolValue() const
 {
-    return getAlternative<BlockValue<bool>>(getCellData());
+    return getAlternative<BlockValue<bool>>(getRawBlocks());
 }
 
 bool Cell::containsFormulaVariant() const

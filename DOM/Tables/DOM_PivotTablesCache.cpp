@@ -9,7 +9,7 @@ namespace QN::DOM {
 
 namespace {
 
-CellIndex getRoot(const TableRange& range)
+CellIndex getAreaRoot(const TableRange& range)
 {
     return {range.getBeginRow(), range.getBeginColumn()};
 }
@@ -29,7 +29,7 @@ void PivotTablesCache::removePivot(RowIndex row, ColumnIndex column)
 {
     const auto range =
         std::find_if(_pivotRanges.begin(), _pivotRanges.end(), [&](const TableRange& candidate) {
-            return getRoot(candidate) == CellIndex(row, column);
+            return getAreaRoot(candidate) == CellIndex(row, column);
         });
     if (range != _pivotRanges.end()) {
         _pivotRanges.erase(range);
@@ -40,7 +40,7 @@ boost::optional<CellIndex> PivotTablesCache::getPivotRoot(RowIndex row, ColumnIn
 {
     for (const TableRange& range : _pivotRanges) {
         if (range.contains(CellIndex(row, column))) {
-            return getRoot(range);
+            return getAreaRoot(range);
         }
     }
     return boost::none;
@@ -57,7 +57,7 @@ std::vector<CellIndex> PivotTablesCache::getPivotTablesInRange(const TableRange&
     std::vector<CellIndex> roots;
     for (const TableRange& pivotRange : _pivotRanges) {
         if (pivotRange.intersects(range)) {
-            roots.push_back(getRoot(pivotRange));
+            roots.push_back(getAreaRoot(pivotRange));
         }
     }
     return roots;

@@ -33,7 +33,9 @@ TableCellIt<TableType>& TableCellIt<TableType>::operator++()
 {
     if (!isAtEnd()) {
         ++_dataIndex;
-        updateForNextValidCell();
+        if (isAtEnd()) {
+            updateForNextValidCell();
+        }
     }
     return *this;
 }
@@ -86,12 +88,6 @@ template <class TableType>
 CellInfo TableCellIt<TableType>::getCellInfo() const
 {
     return {_table, **this, _row, getColIndex(), getRowID(), getColID()};
-}
-
-template <class TableType>
-bool TableCellIt<TableType>::isAtEnd() const
-{
-    return _dataIndex >= _rowEnd;
 }
 
 template <class TableType>

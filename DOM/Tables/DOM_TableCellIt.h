@@ -52,7 +52,7 @@ public:
     std::size_t getDataIndex() const { return _dataIndex; }
 
     /// Whether no stored cell is left.
-    bool isAtEnd() const;
+    bool isAtEnd() const { return _dataIndex >= _rowEnd; }
 
 private:
     void setDataIteratorsForRow();

@@ -39,6 +39,9 @@ void TableChunk::extendTo(std::size_t relativeRow)
 
 void TableChunk::shiftRows(std::size_t relativeRow, std::int64_t delta)
 {
+    if (delta == 0) {
+        return;
+    }
     const std::uint64_t raised = delta > 0 ? static_cast<std::uint64_t>(delta) : 0;
     const std::uint64_t lowered = delta < 0 ? static_cast<std::uint64_t>(-delta) : 0;
     for (std::size_t row = relativeRow + 1; row < rowDataOffsets.size(); ++row) {

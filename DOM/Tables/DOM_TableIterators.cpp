@@ -1,10 +1,28 @@
 #include <algorithm>
 
 #include "DOM/Tables/DOM_Table.h"
+#include "Utils/Public/VectorUtils.h"
 
 /// The walks over a table, and the rows that they pass over.
 
 namespace QN::DOM {
+
+namespace {
+
+/// One past the rows that begin where row `first` does. It is mostly near, so that the search reaches out from there in
+/// growing steps: a bisection of all the rest would cost a walk over a long sparse chunk twenty looks a cell.
+std::size_t findBehindEqualOffsets(const std::vector<std::uint64_t>& offsets, std::size_t first)
+{
+    std::size_t reach = 1;
+    while (reach < offsets.size() - first && offsets[first + reach] <= offsets[first]) {
+        reach *= 2;
+    }
+    const auto from = iteratorAt(offsets, first + reach / 2);
+    const auto to = iteratorAt(offsets, std::min(first + reach, offsets.size()));
+    return static_cast<std::size_t>(std::upper_bound(from, to, offsets[first]) - offsets.begin());
+}
+
+} // namespace
 
 /// To the next row that may hold cells, over all empty ones at once. False, and one past the last row with an offset,
 /// when there is none. The row always rises.
@@ -15,9 +33,7 @@ bool Table::goToNextStoredRow(std::size_t& chunkIndex, RowIndex& row) const
     const std::size_t next = chunk.getRelativeRow(row) + 1;
     if (next < offsets.size()) {
         // Rows without cells begin where the next one begins: the last of them may have some.
-        const auto from = offsets.begin() + static_cast<std::ptrdiff_t>(next);
-        const auto behind = std::upper_bound(from, offsets.end(), *from);
-        row = chunk.startRowIndex + static_cast<std::uint64_t>(behind - offsets.begin() - 1);
+        row = chunk.startRowIndex + (findBehindEqualOffsets(offsets, next) - 1);
         return true;
     }
     if (chunkIndex + 1 < _chunks.size()) {

@@ -42,10 +42,33 @@ TableChunk::CellIterator Table::getLBCellIterator(const TableChunk& chunk,
                                                   const TableChunk::Boundaries& boundaries,
                                                   ColumnIndex column) const
 {
-    return std::lower_bound(iteratorAt(chunk.data, boundaries.begin), iteratorAt(chunk.data, boundaries.end),
-                            column.get(), [&](const CellDataByCol& cell, std::uint64_t value) {
-                                return _colIDContainer.getIndex(cell.colID.get()) < value;
-                            });
+    const auto getColumn = [&](TableChunk::CellIterator cell) {
+        return _colIDContainer.getIndex(cell->colID.get());
+    };
+    const auto bisect = [&](TableChunk::CellIterator from, TableChunk::CellIterator to) {
+        return std::lower_bound(from, to, column.get(), [&](const CellDataByCol& cell, std::uint64_t value) {
+            return _colIDContainer.getIndex(cell.colID.get()) < value;
+        });
+    };
+    const auto begin = iteratorAt(chunk.data, boundaries.begin);
+    const auto end = iteratorAt(chunk.data, boundaries.end);
+    if (begin == end) {
+        return end;
+    }
+    // Cells mostly stand side by side, at the beginning of the row or elsewhere: then one look or two find the place,
+    // where each step of a bisection of distant memory costs more than all else.
+    const auto size = static_cast<std::uint64_t>(end - begin);
+    auto guess = begin + static_cast<std::ptrdiff_t>(std::min(column.get(), size - 1));
+    std::uint64_t guessed = getColumn(guess);
+    if (guessed > column.get() && guess != begin) {
+        guess -= static_cast<std::ptrdiff_t>(
+            std::min(guessed - column.get(), static_cast<std::uint64_t>(guess - begin)));
+        guessed = getColumn(guess);
+    }
+    if (guessed < column.get()) {
+        return bisect(guess + 1, end);
+    }
+    return guess == begin || getColumn(guess - 1) < column.get() ? guess : bisect(begin, guess);
 }
 
 TableChunk::CellIterator Table::getUBCellIterator(const TableChunk& chunk,
