@@ -25,12 +25,16 @@ void checkLimits(RowIndex rowIndex, ColumnIndex colIndex)
 
 } // namespace
 
+/// The last chunk that starts at or before the row. A bisection without branches, since none could be foretold.
 std::size_t Table::findChunk(RowIndex row) const
 {
-    const auto behind =
-        std::upper_bound(_chunks.begin(), _chunks.end(), row,
-                         [](RowIndex value, const TableChunk& chunk) { return value < chunk.startRowIndex; });
-    return behind == _chunks.begin() ? 0 : static_cast<std::size_t>(behind - _chunks.begin()) - 1;
+    std::size_t first = 0;
+    for (std::size_t count = _chunks.size(); count > 1;) {
+        const std::size_t half = count / 2;
+        first += _chunks[first + half].startRowIndex <= row ? half : 0;
+        count -= half;
+    }
+    return first;
 }
 
 TableChunk::Boundaries Table::getRowBoundaries(std::size_t chunk, RowIndex row) const
