@@ -11,8 +11,8 @@ namespace QN::DOM {
 /// How a value stands to the average of the range, or to so many standard deviations from it.
 class DOM_API AboveAverageConditionalFormatOperator {
 public:
-    /// Other numbers pass through uninterpreted.
-    enum class Type : std::uint8_t { Above = 0, Below = 1, EqualOrAbove = 2, EqualOrBelow = 3 };
+    /// Any other number passes through unchanged.
+    enum class Type : std::int32_t { Above = 0, Below = 1, EqualOrAbove = 2, EqualOrBelow = 3 };
 
     AboveAverageConditionalFormatOperator() = default;
     explicit AboveAverageConditionalFormatOperator(Type type,

@@ -9,13 +9,13 @@
 
 namespace QN::DOM {
 
-/// A condition on a cell with two arguments, each of which may be null.
+/// A condition on a cell with two arguments, each of which may be null. Copying it clones the arguments.
 class DOM_API BinaryConditionalFormatOperator {
 public:
     using ExprPtr = std::unique_ptr<FormulaSyntaxTree::Expr>;
 
-    /// Other numbers pass through uninterpreted.
-    enum class Type : std::uint8_t { Between = 0, NotBetween = 1 };
+    /// Any other number passes through unchanged.
+    enum class Type : std::int32_t { Between = 0, NotBetween = 1 };
 
     BinaryConditionalFormatOperator() = default;
     BinaryConditionalFormatOperator(Type type, ExprPtr firstArgument, ExprPtr secondArgument)

@@ -4,7 +4,7 @@
 
 namespace QN::DOM {
 
-/// A condition on a cell that needs no argument. Other numbers pass through uninterpreted.
+/// A condition on a cell that needs no argument. Any other number of one byte passes through unchanged.
 enum class NullaryConditionalFormatOperator : std::uint8_t {
     ContainsBlanks = 0,
     NotContainsBlanks = 1,

@@ -19,8 +19,8 @@
 
 namespace QN::DOM {
 
-/// How the fields of a pivot table are laid out. Other numbers pass through uninterpreted.
-enum class PivotTableLayoutType : std::uint8_t { Compact = 0, Outline = 1, Tabular = 2 };
+/// How the fields of a pivot table are laid out. Any other number passes through unchanged.
+enum class PivotTableLayoutType : std::int32_t { Compact = 0, Outline = 1, Tabular = 2 };
 
 /// A pivot table: its source, which fields go to rows, columns and values, and the calculated results. It stands at the
 /// root cell of its area. The model stores it and calculates nothing.
@@ -42,7 +42,7 @@ public:
     void setPivotTableFieldNameAlias(ColumnID id, std::string alias);
     bool isValidFieldID(ColumnID id) const { return getFieldByID(id) != nullptr; }
 
-    // Layout.
+    // Layout. Fields are added as told: whether they are known, and stand somewhere already, is the caller's to ask.
 
     /// Whether the field is known and stands in neither the rows nor the columns.
     bool canInsertFieldToRowsOrColumns(ColumnID id) const;
@@ -68,10 +68,11 @@ public:
 
     /// Width is columns, height is rows.
     const Size2D<unsigned int>& getSize() const { return _size; }
-    /// Makes all results empty.
+    /// Makes all results empty. A size that no vector can hold throws `std::length_error` and changes nothing.
     void setSize(const Size2D<unsigned int>& size);
 
-    /// The results are addressed at row times width plus column; a place past the last one throws `std::out_of_range`.
+    /// The results are addressed at row times width plus column: a column past the width is in a later row. A place past
+    /// the last result throws `std::out_of_range`. A file's results need not be as many as its size says.
     const PivotTableValue& getValue(unsigned int row, unsigned int column) const;
     void setValue(unsigned int row, unsigned int column, PivotTableValue value);
 
@@ -80,7 +81,8 @@ public:
     void setFieldCache(FieldCache cache) { _fieldCache = std::move(cache); }
 
     /// Whether the one result of a 1 by 1 table is an error value. A result without blocks, such as that of a table just
-    /// sized 1 by 1, fails the contract "index < size()", and a null block the contract "plainPtr".
+    /// sized 1 by 1, fails the contract "index < size()", and a null block the contract "plainPtr". Where a file states
+    /// the size and no result, it throws `std::out_of_range`.
     bool isError() const;
 
     /// The identity takes part.

@@ -7,8 +7,8 @@
 
 namespace QN::DOM {
 
-/// How the values of a field are sorted. Other numbers pass through uninterpreted.
-enum class PivotTableSortOrder : std::uint8_t { Manual = 0, Ascending = 1, Descending = 2 };
+/// How the values of a field are sorted. Any other number passes through unchanged.
+enum class PivotTableSortOrder : std::int32_t { Manual = 0, Ascending = 1, Descending = 2 };
 
 /// A field that is shown as rows or as columns of a pivot table.
 class DOM_API PivotTableCategoryInfo {

@@ -12,15 +12,15 @@
 
 namespace QN::DOM {
 
-/// A condition on the text of a cell. The text to compare with is given as such or by an expression; the two are never
-/// equal, whatever the expression says.
+/// A condition on the text of a cell. The text to compare with is given as such or by an expression, which may be null;
+/// the two are never equal, whatever the expression says. Copying it clones the expression.
 class DOM_API TextConditionalFormatOperator {
 public:
     using ExprPtr = std::unique_ptr<FormulaSyntaxTree::Expr>;
     using Argument = boost::variant<std::string, ExprPtr>;
 
-    /// Other numbers pass through uninterpreted.
-    enum class Type : std::uint8_t { ContainsText = 0, NotContainsText = 1, BeginsWith = 2, EndsWith = 3 };
+    /// Any other number passes through unchanged.
+    enum class Type : std::int32_t { ContainsText = 0, NotContainsText = 1, BeginsWith = 2, EndsWith = 3 };
 
     TextConditionalFormatOperator() = default;
     TextConditionalFormatOperator(Type type, std::string argument)

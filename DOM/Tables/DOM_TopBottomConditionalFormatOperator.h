@@ -7,12 +7,14 @@
 
 namespace QN::DOM {
 
-/// Whether a value is among the greatest or the least of the range, so many of them or so many per cent.
+/// Whether a value is among the greatest or the least of the range, so many of them or so many per cent. A file has the
+/// value before the flag.
 class DOM_API TopBottomConditionalFormatOperator {
 public:
-    /// Other numbers pass through uninterpreted.
-    enum class Type : std::uint8_t { Bottom = 0, Top = 1 };
+    /// Any other number passes through unchanged.
+    enum class Type : std::int32_t { Bottom = 0, Top = 1 };
 
+    /// Of type 1, unlike the other conditions, whose first type is 0.
     TopBottomConditionalFormatOperator() = default;
     TopBottomConditionalFormatOperator(Type type, bool usePercent, std::uint32_t value)
         : _type(type), _usePercent(usePercent), _value(value)

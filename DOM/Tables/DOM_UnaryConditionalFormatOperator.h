@@ -9,13 +9,13 @@
 
 namespace QN::DOM {
 
-/// A condition on a cell with one argument, which may be null.
+/// A condition on a cell with one argument, which may be null. Copying it clones the argument.
 class DOM_API UnaryConditionalFormatOperator {
 public:
     using ExprPtr = std::unique_ptr<FormulaSyntaxTree::Expr>;
 
-    /// `Expression` is a formula of its own that decides. Other numbers pass through uninterpreted.
-    enum class Type : std::uint8_t {
+    /// `Expression` is a formula of its own that decides. Any other number passes through unchanged.
+    enum class Type : std::int32_t {
         LessThan = 0,
         LessThanOrEqual = 1,
         Equal = 2,

@@ -9,8 +9,8 @@
 
 namespace QN::DOM {
 
-/// How the values of a field are brought together. Other numbers pass through uninterpreted.
-enum class PivotTableFunction : std::uint8_t {
+/// How the values of a field are brought together. Any other number passes through unchanged.
+enum class PivotTableFunction : std::int32_t {
     Average = 0,
     Count = 1,
     CountNumbers = 2,

@@ -8,10 +8,10 @@
 
 namespace QN::DOM {
 
-/// How a composite filter joins its filters. Other numbers pass through uninterpreted.
-enum class CompositeTableFilterType : std::uint8_t { And = 0, Or = 1 };
+/// How a composite filter joins its filters. Any other number passes through unchanged.
+enum class CompositeTableFilterType : std::int32_t { And = 0, Or = 1 };
 
-/// Combines filters, other composite ones included.
+/// Combines filters, other composite ones included. Copying it clones the filters; a null one stays null.
 class DOM_API CompositeTableFilter final : public Reflectable<TableFilter> {
 public:
     using Filters = std::vector<std::unique_ptr<TableFilter>>;

@@ -6,8 +6,8 @@
 
 namespace QN::DOM {
 
-/// A condition without parameter. Other numbers pass through uninterpreted.
-enum class NullaryConditionTableFilterOperator : std::uint8_t {
+/// A condition without parameter. Any other number passes through unchanged.
+enum class NullaryConditionTableFilterOperator : std::int32_t {
     Empty = 0,
     NotEmpty = 1,
     AboveAverage = 2,

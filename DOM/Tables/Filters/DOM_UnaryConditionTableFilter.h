@@ -8,8 +8,8 @@
 
 namespace QN::DOM {
 
-/// A condition with one parameter. Other numbers pass through uninterpreted.
-enum class UnaryConditionTableFilterOperator : std::uint8_t {
+/// A condition with one parameter. Any other number passes through unchanged.
+enum class UnaryConditionTableFilterOperator : std::int32_t {
     Equal = 0,
     NotEqual = 1,
     LessThan = 2,

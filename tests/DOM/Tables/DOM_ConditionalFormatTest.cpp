@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "DOM/FormulaSyntaxTree/DOM_Bool.h"
+#include "DOM/FormulaSyntaxTree/DOM_FunctionCall.h"
 #include "DOM/Tables/TablePrinters.h"
 #include "DOM/Tables/TableSamples.h"
 #include "DOM/ValueChecks.h"
@@ -53,11 +54,13 @@ TEST(DOM_ConditionalFormat, WritesAllThatItHolds)
 
 TEST(DOM_ConditionalFormat, RefusesAnUnknownKindOfCondition)
 {
-    EXPECT_EQ(
-        loadError<ConditionalFormat>(R"({"_styleUUID":{"_id":"00000000-0000-0000-0000-000000000000"},)"
-                                     R"("_stopCalculateConditions":false,"_operator":{"which":7,"data":0},)"
-                                     R"("_ranges":[]})"),
-        "Invalid 'which' selector when deserializing boost::variant");
+    const auto load = [](const std::string& which) {
+        return loadError<ConditionalFormat>(R"({"_styleUUID":{"_id":"00000000-0000-0000-0000-000000000000"},)"
+                                            R"("_stopCalculateConditions":false,"_operator":{"which":)" +
+                                            which + R"(,"data":0},"_ranges":[]})");
+    };
+    EXPECT_EQ(load("6"), "<loaded>");
+    EXPECT_EQ(load("7"), "Invalid 'which' selector when deserializing boost::variant");
 }
 
 TEST(DOM_ConditionalFormat, SharesNoExpressionWithItsCopy)
@@ -67,6 +70,16 @@ TEST(DOM_ConditionalFormat, SharesNoExpressionWithItsCopy)
     EXPECT_EQ(copy, source);
     EXPECT_NE(boost::get<UnaryConditionalFormatOperator>(copy.getOperator()).getArgument(),
               boost::get<UnaryConditionalFormatOperator>(source.getOperator()).getArgument());
+}
+
+TEST(DOM_ConditionalFormatDeathTest, WithACallWithoutArgumentsCannotBeCopied)
+{
+    ConditionalFormat format;
+    format.setOperator(UnaryConditionalFormatOperator(UnaryConditionalFormatOperator::Type::Expression,
+                                                      std::make_unique<FormulaSyntaxTree::FunctionCall>()));
+    EXPECT_EQ(toText(fromText<ConditionalFormat>(toText(format))), toText(format));
+    EXPECT_DEATH(ConditionalFormat copy(format),
+                 R"(DOM_ExprTransformations\.cpp:[0-9]+: argsRange\.begin\(\) != end)");
 }
 
 TEST(DOM_ConditionalFormat, DiffersByEachOfItsMembers)
@@ -81,8 +94,21 @@ TEST(DOM_ConditionalFormat, DiffersByEachOfItsMembers)
     format.setOperator(NullaryConditionalFormatOperator::ContainsErrors);
     EXPECT_NE(format, makeFormat());
     format = makeFormat();
+    format.setOperator(UnaryConditionalFormatOperator(UnaryConditionalFormatOperator::Type::Equal,
+                                                      std::make_unique<FormulaSyntaxTree::Bool>(false)));
+    EXPECT_NE(format, makeFormat());
+    format = makeFormat();
     format.getRanges().pop_back();
     EXPECT_NE(format, makeFormat());
+}
+
+TEST(DOM_ConditionalFormat, GivesWhatItIsSetTo)
+{
+    const ConditionalFormat format = makeFormat();
+    EXPECT_EQ(format.getStyleUUID(), UUID("00000000-0000-0000-0000-00000000000a"));
+    EXPECT_TRUE(format.getStopCalculateConditions());
+    EXPECT_EQ(format.getOperator().which(), 1);
+    EXPECT_EQ(format.getRanges(), (std::vector{makeIDRange(1, 2, 3, 4), makeIDRange(5, 6, 7, 8)}));
 }
 
 TEST(DOM_ConditionalFormat, DiffersByTheOrderOfItsRanges)
@@ -147,7 +173,8 @@ TEST(DOM_ConditionalFormatDeathTest, MustNotBeNullWhereItIsAskedFor)
     Table table = makeTable();
     table.getConditionalFormats().getElements().push_back(nullptr);
     EXPECT_TRUE(isIndexInConditionalFormatRanges(table, makeIndex(2, 3)));
-    EXPECT_DEATH(isIndexInConditionalFormatRanges(table, makeIndex(0, 0)), "plainPtr");
+    EXPECT_DEATH(isIndexInConditionalFormatRanges(table, makeIndex(0, 0)),
+                 "Utils/Public/Ptr/PtrUtils:254: plainPtr");
 }
 
 } // namespace

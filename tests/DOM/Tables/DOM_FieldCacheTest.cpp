@@ -70,9 +70,9 @@ TEST(DOM_FieldCacheDeathTest, TakesFiniteNumbersAlone)
 {
     FieldCache cache;
     EXPECT_DEATH(cache.addValue(ColumnID(1), std::numeric_limits<double>::infinity()),
-                 R"(isfinite\(value\))");
+                 R"(DOM_BlockValue\.cpp:[0-9]+: isfinite\(value\))");
     EXPECT_DEATH(cache.addValue(ColumnID(1), std::numeric_limits<double>::quiet_NaN()),
-                 R"(isfinite\(value\))");
+                 R"(DOM_BlockValue\.cpp:[0-9]+: isfinite\(value\))");
 }
 
 TEST(DOM_FieldCache, KeepsTheValuesOfAFieldInTheOrderOfAdding)
@@ -84,6 +84,14 @@ TEST(DOM_FieldCache, KeepsTheValuesOfAFieldInTheOrderOfAdding)
     EXPECT_TRUE(areDeeplyEqual((*cache.getValues(ColumnID(1)))[0].getBlocks()[0], *makeNumberBlock(2.0)));
     cache.reset();
     EXPECT_EQ(cache.getValues(ColumnID(1)), nullptr);
+}
+
+TEST(DOM_FieldCache, SharesNoBlockWithItsCopy)
+{
+    FieldCache cache;
+    cache.addValue(ColumnID(1), "apple");
+    const FieldCache copy(cache);
+    EXPECT_NE(&getOnlyBlock(copy, ColumnID(1)), &getOnlyBlock(cache, ColumnID(1)));
 }
 
 TEST(DOM_FieldCache, HasAnIdentityThatTakesPartInEquality)

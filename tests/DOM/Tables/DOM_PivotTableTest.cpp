@@ -84,6 +84,47 @@ TEST(DOM_PivotTable, HasAnIdentityThatTakesPartInEquality)
     EXPECT_NE(one, other);
 }
 
+TEST(DOM_PivotTable, DiffersByEachOfItsMembers)
+{
+    const PivotTable pivot = makePivot();
+    const auto expectDiffers = [&](auto change) {
+        PivotTable changed(pivot);
+        change(changed);
+        EXPECT_NE(changed, pivot);
+    };
+    expectDiffers([](PivotTable& changed) {
+        changed.setSourceRange(FormulaSyntaxTree::CellRange("doc", std::string(), std::string(),
+                                                            FormulaSyntaxTree::ColumnAxis(Region, true)));
+    });
+    expectDiffers([](PivotTable& changed) { changed.addRow(Region, PivotTableSortOrder::Manual, true); });
+    expectDiffers([](PivotTable& changed) { changed.addColumn(Region, PivotTableSortOrder::Manual, true); });
+    expectDiffers([](PivotTable& changed) { changed.addCalculatingValue(Sales, PivotTableFunction::Sum); });
+    expectDiffers([](PivotTable& changed) { changed.setPivotTableFields({}); });
+    expectDiffers([](PivotTable& changed) { changed.getFieldCache().addValue(Region, "North"); });
+    expectDiffers([](PivotTable& changed) { changed.setFieldCache(FieldCache()); });
+    expectDiffers([](PivotTable& changed) { changed.setLayoutType(PivotTableLayoutType::Outline); });
+    expectDiffers([](PivotTable& changed) { changed.setSize({1, 1}); });
+    expectDiffers([](PivotTable& changed) { changed.setSize({0, 1}); });
+}
+
+TEST(DOM_PivotTable, PassesUnknownLayoutsThrough)
+{
+    PivotTable pivot;
+    pivot.setLayoutType(static_cast<PivotTableLayoutType>(2147483647));
+    EXPECT_NE(toText(pivot).find(R"("_layoutType":2147483647,)"), std::string::npos);
+    EXPECT_EQ(fromText<PivotTable>(toText(pivot)), pivot);
+}
+
+TEST(DOM_PivotTable, TakesACacheOfFieldValues)
+{
+    FieldCache cache;
+    cache.addValue(Region, "North");
+    PivotTable pivot = makePivot();
+    pivot.setFieldCache(cache);
+    EXPECT_EQ(std::as_const(pivot).getFieldCache(), cache);
+    EXPECT_EQ(pivot.getFieldCache().getValues(Sales), nullptr);
+}
+
 TEST(DOM_PivotTable, FindsItsFieldsByIdentifier)
 {
     PivotTable pivot = makePivot();
@@ -182,6 +223,36 @@ TEST(DOM_PivotTable, HasEmptyResultsAfterItsSizeWasSet)
     EXPECT_EQ(pivot.getValue(1, 1), PivotTableValue());
 }
 
+TEST(DOM_PivotTable, RefusesASizeThatNoVectorHoldsAndKeepsItsResults)
+{
+    constexpr unsigned int Largest = 4294967295U;
+    PivotTable pivot;
+    pivot.setSize({1, 1});
+    pivot.setValue(0, 0, makeValue(makeNumberBlock(12.0)));
+    EXPECT_THROW(pivot.setSize({Largest, Largest}), std::length_error);
+    EXPECT_EQ(pivot.getSize(), (Size2D<unsigned int>(1, 1)));
+    EXPECT_EQ(pivot.getValue(0, 0), makeValue(makeNumberBlock(12.0)));
+}
+
+TEST(DOM_PivotTable, LoadsAsManyResultsAsAFileHasWhateverItsSize)
+{
+    PivotTable pivot;
+    pivot.setSize({2, 1});
+    std::string text = toText(pivot);
+    const std::string size = R"("_size":{"_width":2,"_height":1})";
+    ASSERT_NE(text.find(size), std::string::npos);
+    text.replace(text.find(size), size.size(), R"("_size":{"_width":1,"_height":1})");
+    EXPECT_EQ(fromText<PivotTable>(text).getValue(1, 0), PivotTableValue());
+
+    const std::string results =
+        R"("_calculatedValues":[{"_blocks":[],"_style":{"id":0}},{"_blocks":[],"_style":{"id":0}}])";
+    ASSERT_NE(text.find(results), std::string::npos);
+    text.replace(text.find(results), results.size(), R"("_calculatedValues":[])");
+    const auto loaded = fromText<PivotTable>(text);
+    EXPECT_THROW(loaded.getValue(0, 0), std::out_of_range);
+    EXPECT_THROW(loaded.isError(), std::out_of_range);
+}
+
 TEST(DOM_PivotTable, IsAnErrorWhenItsOneResultIsAnErrorValue)
 {
     PivotTable pivot;
@@ -208,7 +279,7 @@ TEST(DOM_PivotTableDeathTest, IsAskedForAnErrorOnlyOnceItsOneResultHasABlock)
     pivot.setSize({1, 1});
     EXPECT_DEATH(pivot.isError(), R"(ReadonlyVector:449: index < size\(\))");
     pivot.setValue(0, 0, makeValue(nullptr));
-    EXPECT_DEATH(pivot.isError(), "plainPtr");
+    EXPECT_DEATH(pivot.isError(), "Utils/Public/Ptr/PtrUtils:254: plainPtr");
 }
 
 } // namespace

@@ -29,8 +29,10 @@ TEST(DOM_NullaryConditionTableFilter, IsOneOfItsFamily)
 TEST(DOM_NullaryConditionTableFilter, PassesUnknownOperatorsThrough)
 {
     NullaryConditionTableFilter filter(ColumnIndex(7));
-    filter.setOperator(static_cast<Operator>(201));
-    expectText(filter, R"({"value0":{"value0":{},"_columnIndex":{"_value":7}},"_operator":201})");
+    filter.setOperator(static_cast<Operator>(-1));
+    expectText(filter, R"({"value0":{"value0":{},"_columnIndex":{"_value":7}},"_operator":-1})");
+    filter.setOperator(static_cast<Operator>(2147483647));
+    expectText(filter, R"({"value0":{"value0":{},"_columnIndex":{"_value":7}},"_operator":2147483647})");
     EXPECT_NE(filter, NullaryConditionTableFilter(ColumnIndex(7)));
 }
 

@@ -49,15 +49,33 @@ TEST(DOM_TableFilterInfo, LeavesTheHeaderOut)
 
 TEST(DOM_TableFilterInfoDeathTest, NeedsARowOfData)
 {
-    EXPECT_DEATH(TableFilterInfo(makeRange(4, 5)), R"(filterRange\.getRowCount\(\) > 1)");
+    EXPECT_DEATH(TableFilterInfo(makeRange(4, 5)),
+                 R"(DOM_TableFilterInfo\.cpp:[0-9]+: filterRange\.getRowCount\(\) > 1)");
+}
+
+/// A range from row 4 and column 1 on, without a filter.
+std::string makeText(const std::string& endRow, const std::string& endColumn)
+{
+    return R"({"_filterRange":{"_beginRow":{"_value":4},"_endRow":{"_value":)" + endRow +
+           R"(},"_beginColumn":{"_value":1},"_endColumn":{"_value":)" + endColumn +
+           R"(}},"_filter":{"polymorphic_id":0}})";
 }
 
 TEST(DOM_TableFilterInfoDeathTest, HasNothingButItsHeaderWhenAFileSaysSo)
 {
-    const auto info = fromJson<TableFilterInfo>(
-        R"({"_filterRange":{"_beginRow":{"_value":4},"_endRow":{"_value":5},"_beginColumn":{"_value":0},)"
-        R"("_endColumn":{"_value":1}},"_filter":{"polymorphic_id":0}})");
-    EXPECT_DEATH(info.getFilterRangeWithoutHeader(), R"(TableRange:229: _beginRow < _endRow)");
+    EXPECT_EQ(fromJson<TableFilterInfo>(makeText("6", "2")).getFilterRangeWithoutHeader(),
+              TableRange(RowIndex(5), RowIndex(6), ColumnIndex(1), ColumnIndex(2)));
+    const auto info = fromJson<TableFilterInfo>(makeText("5", "2"));
+    EXPECT_DEATH(info.getFilterRangeWithoutHeader(),
+                 "Utils/Public/TableIndices/TableRange:229: _beginRow < _endRow");
+}
+
+TEST(DOM_TableFilterInfo, IsRefusedWithoutCells)
+{
+    for (const std::string& text :
+         {makeText("4", "2"), makeText("3", "2"), makeText("6", "1"), makeText("6", "0")}) {
+        EXPECT_EQ(loadError<TableFilterInfo>(text), "A range of cells is empty or reversed") << text;
+    }
 }
 
 TEST(DOM_TableFilterInfo, WritesItsRangeAndItsFilter)
@@ -71,6 +89,20 @@ TEST(DOM_TableFilterInfo, WritesItsRangeAndItsFilter)
                 R"({"value0":{"value0":{},"_columnIndex":{"_value":3}},"_valuesToShow":[]})") +
             "}");
     expectCopiesAndMoves(makeInfo());
+}
+
+TEST(DOM_TableFilterInfo, DiffersByItsRangeAndByItsFilter)
+{
+    EXPECT_EQ(makeInfo(), makeInfo());
+    TableFilterInfo info(makeRange(1, 10));
+    info.setFilter(std::make_unique<ValuesTableFilter>(ColumnIndex(3)));
+    EXPECT_NE(info, makeInfo());
+    info = makeInfo();
+    info.setFilter(std::make_unique<ValuesTableFilter>(ColumnIndex(4)));
+    EXPECT_NE(info, makeInfo());
+    info.setFilter(nullptr);
+    EXPECT_NE(info, makeInfo());
+    EXPECT_EQ(info, TableFilterInfo(makeRange(1, 9)));
 }
 
 TEST(DOM_TableFilterInfo, SharesNoFilterWithItsCopy)

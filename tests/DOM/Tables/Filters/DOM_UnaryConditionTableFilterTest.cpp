@@ -27,6 +27,15 @@ TEST(DOM_UnaryConditionTableFilter, IsOneOfItsFamily)
         R"({"value0":{"value0":{},"_columnIndex":{"_value":7}},"_operator":5,"_parameter":"12"})");
 }
 
+TEST(DOM_UnaryConditionTableFilter, PassesUnknownOperatorsThrough)
+{
+    for (const int number : {-1, 2147483647}) {
+        expectText(UnaryConditionTableFilter(ColumnIndex(7), static_cast<Operator>(number), ""),
+                   R"({"value0":{"value0":{},"_columnIndex":{"_value":7}},"_operator":)" +
+                       std::to_string(number) + R"(,"_parameter":""})");
+    }
+}
+
 TEST(DOM_UnaryConditionTableFilter, TakesWhatItIsGiven)
 {
     UnaryConditionTableFilter filter(ColumnIndex(7));
@@ -36,6 +45,7 @@ TEST(DOM_UnaryConditionTableFilter, TakesWhatItIsGiven)
     EXPECT_EQ(filter.getParameter(), "x");
     EXPECT_NE(filter, UnaryConditionTableFilter(ColumnIndex(7), Operator::Contains, "y"));
     EXPECT_NE(filter, UnaryConditionTableFilter(ColumnIndex(7), Operator::Equal, "x"));
+    EXPECT_NE(filter, UnaryConditionTableFilter(ColumnIndex(8), Operator::Contains, "x"));
 }
 
 } // namespace

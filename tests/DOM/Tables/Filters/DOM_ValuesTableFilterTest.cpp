@@ -33,6 +33,15 @@ TEST(DOM_ValuesTableFilter, KeepsOneOfEachTextAndWritesThemSorted)
         R"({"value0":{"value0":{},"_columnIndex":{"_value":7}},"_valuesToShow":["","apple","pear"]})");
 }
 
+TEST(DOM_ValuesTableFilter, DiffersByItsTexts)
+{
+    ValuesTableFilter filter = makeFilter();
+    filter.getValuesToShow().erase("apple");
+    EXPECT_NE(filter, makeFilter());
+    filter.getValuesToShow().insert("apple");
+    EXPECT_EQ(filter, makeFilter());
+}
+
 TEST(DOM_ValuesTableFilter, SortsTheTextsOfAFile)
 {
     const auto loaded = fromJson<ValuesTableFilter>(
