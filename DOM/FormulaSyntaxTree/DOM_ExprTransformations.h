@@ -24,7 +24,8 @@ using ExprModifier = CallableRef<std::unique_ptr<Expr>(std::unique_ptr<Expr>)>;
 /// Builds a new tree from the nodes of another one in the order of `toExprStack`. Each is copied with the copies of its
 /// children as arguments and passed through the modifier, children before parents; the items of an `Array` are not. A
 /// sequence that does not fold to one tree fails the contract "exprCloner._clonesStack.size() == 1", and a node with
-/// too few nodes before it "_clonesStack.size() >= elements".
+/// too few nodes before it "_clonesStack.size() >= elements". A modifier that gives null leaves a null argument behind: a
+/// call or a list holds it, an operator fails its contract, and for the root null is the result.
 DOM_API std::unique_ptr<Expr> cloneToSyntaxTree(const std::vector<const Expr*>& nodes, ExprModifier modifier);
 
 /// Returns its argument.

@@ -27,7 +27,7 @@ public:
     /// May be null. Copies share it.
     const std::shared_ptr<const CellFormat>& getFormat() const { return _format; }
 
-    /// Formats compare by value.
+    /// Formats compare by value. A NaN is unequal to every number, itself included.
     QN_VALUE(Number)
     QN_CONCRETE(Expr)
 

@@ -4,6 +4,7 @@
 
 #include "DOM/FormulaSyntaxTree/DOM_ExprTransformations.h"
 #include "DOM/FormulaSyntaxTree/ExprBuilders.h"
+#include "DOM/Tables/DOM_ConditionalFormat.h"
 #include "DOM/Tables/DOM_Formula.h"
 #include "Support/SmallStack.h"
 
@@ -63,10 +64,29 @@ std::unique_ptr<Expr> makeMixedChain(std::size_t nodes)
     return makeChain(nodes / 2, [](auto tree) { return row(args(op<UnaryMinus>(std::move(tree)))); });
 }
 
+/// Operators with their operand on either side, calls and lists in turn.
+std::unique_ptr<Expr> makeChainOfAllKinds(std::size_t nodes)
+{
+    return makeChain(nodes, [kind = 0](std::unique_ptr<Expr> tree) mutable {
+        switch (kind++ % 5) {
+        case 0:
+            return op<UnaryMinus>(std::move(tree));
+        case 1:
+            return op<Plus>(std::move(tree), number(2));
+        case 2:
+            return op<Mul>(number(2), std::move(tree));
+        case 3:
+            return call("F", args(std::move(tree)));
+        default:
+            return list(args(std::move(tree)));
+        }
+    });
+}
+
 using Maker = std::unique_ptr<Expr> (*)(std::size_t);
 
-constexpr std::array<Maker, 7> Makers{makeUnaryChain, makeLeftDeep,   makeRightDeep, makeCallChain,
-                                      makeListChain,  makeArrayChain, makeMixedChain};
+constexpr std::array<Maker, 8> Makers{makeUnaryChain, makeLeftDeep,   makeRightDeep,  makeCallChain,
+                                      makeListChain,  makeArrayChain, makeMixedChain, makeChainOfAllKinds};
 
 /// Builds, clones, compares and destroys.
 void expectHandles(Maker make, std::size_t nodes)
@@ -99,14 +119,60 @@ TEST(ExprDepthTest, DeepTreesOfEveryShapeAreBuiltClonedComparedAndDestroyed)
     }
 }
 
-TEST(ExprDepthTest, AMillionOperatorsInsideEachOtherAreBuiltClonedComparedAndDestroyed)
+TEST(ExprDepthTest, AMillionOperatorsCallsAndListsInsideEachOtherAreBuiltClonedComparedAndDestroyed)
 {
     runOnSmallStack([] {
-        const Formula formula(makeUnaryChain(Million), false);
+        const Formula formula(makeChainOfAllKinds(Million), false);
         const Formula copy(formula);
         EXPECT_TRUE(copy == formula);
-        const auto clone = cloneToSyntaxTree(toExprStack(*copy.getSyntaxTree()), defaultModifier);
+        const auto clone = cloneToSyntaxTree(toExprStack(*formula.getSyntaxTree()), defaultModifier);
         EXPECT_TRUE(areDeeplyEqual(*clone, *formula.getSyntaxTree()));
+    });
+}
+
+TEST(ExprDepthTest, DeepTreesThatDifferInTheirInnermostNodeAreUnequal)
+{
+    runOnSmallStack([] {
+        const auto tree = makeUnaryChain(Enough);
+        const auto copy = clone(*tree);
+        static_cast<Number&>(*toExprStack(*copy).front()).setValue(9);
+        EXPECT_FALSE(areDeeplyEqual(*tree, *copy));
+        EXPECT_FALSE(areDeeplyEqual(*copy, *tree));
+    });
+}
+
+TEST(ExprDepthTest, FormulasLeaveDeepTreesWhenTheyAreAssignedTo)
+{
+    runOnSmallStack([] {
+        Formula formula(makeLeftDeep(Enough), false);
+        const Formula other(makeRightDeep(Enough), false);
+        formula = other;
+        EXPECT_TRUE(formula == other);
+        formula = Formula(makeUnaryChain(Enough), false);
+        EXPECT_FALSE(formula == other);
+        formula.getSyntaxTree() = nullptr;
+        formula.getSyntaxTree() = makeCallChain(Enough);
+        formula = Formula();
+        EXPECT_TRUE(formula == Formula());
+    });
+}
+
+TEST(ExprDepthTest, ConditionalFormatsHoldDeepTrees)
+{
+    runOnSmallStack([] {
+        ConditionalFormat unary;
+        unary.setOperator(UnaryConditionalFormatOperator({}, makeLeftDeep(Enough)));
+        ConditionalFormat binary;
+        binary.setOperator(
+            BinaryConditionalFormatOperator({}, makeRightDeep(Enough), makeUnaryChain(Enough)));
+        ConditionalFormat textual;
+        textual.setOperator(TextConditionalFormatOperator({}, makeCallChain(Enough)));
+        for (const ConditionalFormat& format : {unary, binary, textual}) {
+            ConditionalFormat copy(format);
+            EXPECT_TRUE(copy == format);
+            copy.setOperator(NullaryConditionalFormatOperator::ContainsBlanks);
+            EXPECT_FALSE(copy == format);
+        }
     });
 }
 

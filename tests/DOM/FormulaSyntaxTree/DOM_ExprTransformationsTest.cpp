@@ -144,6 +144,29 @@ TEST(ExprTransformationsTest, AModifierThatReplacesTheRootDecidesTheResult)
     EXPECT_TRUE(areDeeplyEqual(*copy, Number(7)));
 }
 
+TEST(ExprTransformationsTest, ANullFromAModifierIsHeldByACallOrIsTheResult)
+{
+    const auto drop = [](std::unique_ptr<Expr> expr) -> std::unique_ptr<Expr> {
+        return dynamic_cast<const Number*>(expr.get()) != nullptr ? nullptr : std::move(expr);
+    };
+    const auto tree = call("F", args(number(1), text("a")));
+    const auto copy = cloneToSyntaxTree(toExprStack(std::as_const(*tree)), drop);
+    EXPECT_TRUE(areDeeplyEqual(*copy, *call("F", args(nullptr, text("a")))));
+    const Number leaf(1);
+    EXPECT_EQ(cloneToSyntaxTree({&leaf}, drop), nullptr);
+}
+
+TEST(ExprTransformationsDeathTest, ANullFromAModifierStopsAnOperator)
+{
+    const auto drop = [](std::unique_ptr<Expr> /*expr*/) { return std::unique_ptr<Expr>(); };
+    const auto minus = op<UnaryMinus>(number(1));
+    EXPECT_DEATH(cloneToSyntaxTree(toExprStack(std::as_const(*minus)), drop),
+                 R"(DOM_BaseUnaryOp\.cpp:[0-9]+: _args\[0\])");
+    const auto plus = op<Plus>(number(1), number(2));
+    EXPECT_DEATH(cloneToSyntaxTree(toExprStack(std::as_const(*plus)), drop),
+                 R"(DOM_BaseBinaryOp\.cpp:[0-9]+: _args\[0\])");
+}
+
 TEST(ExprTransformationsDeathTest, AnEmptySequenceMakesNoTree)
 {
     EXPECT_DEATH(cloneToSyntaxTree({}, defaultModifier),

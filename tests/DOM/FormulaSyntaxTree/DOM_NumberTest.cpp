@@ -46,8 +46,14 @@ TEST(NumberTest, IsEqualOnlyWithAnEqualValueAndBothFormatsNullOrDeeplyEqual)
     EXPECT_NE(Number(1, format), Number(1));
     EXPECT_NE(Number(1), Number(1, format));
     EXPECT_NE(Number(1, format), Number(1, std::make_shared<CellFormat>()));
+}
+
+TEST(NumberTest, IsUnequalToItselfWhenItIsNoNumber)
+{
     const Number nan(std::numeric_limits<double>::quiet_NaN());
+    EXPECT_FALSE(nan == nan);
     EXPECT_FALSE(areDeeplyEqual(nan, nan));
+    EXPECT_FALSE(areDeeplyEqual(nan, *clone(nan)));
 }
 
 TEST(NumberTest, PersistsItsValueAndThenItsFormat)
