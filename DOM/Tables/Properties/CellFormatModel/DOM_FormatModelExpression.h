@@ -18,9 +18,9 @@ public:
     Expression() = default;
     /// A list of rules, without a default.
     explicit Expression(std::vector<Rule> rules) : _rules(std::move(rules)) {}
-    /// The same: `Expression({rule})` is a list of one rule.
+    /// The same: `Expression({rule})` is a list of one rule, and so is `Expression{rule}`.
     Expression(std::initializer_list<Rule> rules) : _rules(rules) {}
-    /// A format of one rule: the rule is the default one for numbers and not a list of one.
+    /// A format of one rule, as `Expression(rule)`: the rule is the default one for numbers and not a list of one.
     explicit Expression(Rule rule) : _defaultNumberRule(std::move(rule)) {}
 
     const std::vector<Rule>& getRules() const { return _rules; }

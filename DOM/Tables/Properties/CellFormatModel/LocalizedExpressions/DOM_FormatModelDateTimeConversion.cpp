@@ -47,18 +47,18 @@ struct Converter {
         if (localized != getTable().end()) {
             items.insert(localized->second);
         } else {
-            isUnconvertible = item.getType() > DateTimeItem::Type::AP;
+            unconvertible = item.getType() > DateTimeItem::Type::AP;
         }
     }
 
     template <class OtherItem>
     void operator()(const OtherItem& /*item*/)
     {
-        isUnconvertible = true;
+        unconvertible = true;
     }
 
     DateTimePatternItemSet items;
-    bool isUnconvertible = false;
+    bool unconvertible = false;
 };
 
 } // namespace
@@ -69,7 +69,7 @@ DateTimePatternItemSet convertDateTimeRuleToItemSet(const Rule& rule, bool lenie
     for (const Rule::Item& item : rule.getItems()) {
         boost::apply_visitor(converter, item);
     }
-    if (converter.isUnconvertible && !lenient) {
+    if (converter.unconvertible && !lenient) {
         return {};
     }
     return std::move(converter.items);

@@ -7,7 +7,8 @@
 
 namespace QN::DOM::CellFormatModel {
 
-/// The standard formats: the day, month and year; the hour, minute and second; the date with the hour and minute.
+/// The standard formats: the day, month and year; the hour, minute and second; the date with the hour and minute
+/// and without the second.
 enum class DateTimeDefaultType : std::int32_t { Date = 0, Time = 1, DateTime = 2 };
 
 /// Whether a format shows a date, a time or both.
