@@ -113,14 +113,14 @@ void editText(Document& document)
             plain.push_back(i);
         }
     }
+    auto added = std::make_unique<Paragraph>();
+    added->getRuns().push_back(std::make_unique<TextRun>("This was written into the loaded document."));
+    const std::size_t place = plain.empty() ? 0 : plain.back() + 1;
+    tombstones.insertElement(tombstones.convertIndex(IndexExcludingTombstones(place)));
+    blocks.insert(blocks.begin() + static_cast<std::ptrdiff_t>(place), std::move(added));
     if (plain.empty()) {
         return;
     }
-    auto added = std::make_unique<Paragraph>();
-    added->getRuns().push_back(std::make_unique<TextRun>("This was written into the loaded document."));
-    const std::size_t last = plain.back();
-    tombstones.insertElement(tombstones.convertIndex(IndexExcludingTombstones(last)) + 1);
-    blocks.insert(blocks.begin() + static_cast<std::ptrdiff_t>(last) + 1, std::move(added));
 
     const std::size_t removed = plain[plain.size() / 2];
     tombstones.replaceWithTombstone(tombstones.convertIndex(IndexExcludingTombstones(removed)));

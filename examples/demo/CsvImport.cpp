@@ -138,9 +138,12 @@ private:
                                                               CellIndex(row, lastColumn)));
             setField(CellIndex(row, sums), Formula(std::move(call), false));
         }
-        CsvColumn column = *first;
+        CsvColumn column;
         column.formulas = recordsCount - 1;
-        column.numbers = 0;
+        column.width = first->width;
+        for (auto summed = first; summed <= last; ++summed) {
+            column.decimals = std::max(column.decimals, summed->decimals);
+        }
         _columns.push_back(std::move(column));
     }
 

@@ -18,7 +18,7 @@ using namespace QN::DOM;
 
 constexpr const char* PageCss =
     R"(body{margin:0;padding:1.5em 0;background:#e6e6e1;font-family:Charter,Palatino,Georgia,serif}
-.page{box-sizing:border-box;max-width:75em;margin:0 auto 1.5em;padding:1.6em 2em 1.2em;background:#fff;box-shadow:0 1px 4px #0003}
+.page{box-sizing:border-box;max-width:64em;margin:0 auto 1.5em;padding:1.6em 2em 1.2em;background:#fff;box-shadow:0 1px 4px #0003}
 .text{max-width:60em;padding-left:7em;padding-right:7em}
 header,footer{font-family:'Helvetica Neue',Arial,sans-serif;border-color:#ccc;border-style:solid;border-width:0}
 header{border-bottom-width:1px;margin-bottom:2em;padding-bottom:.4em}

@@ -191,7 +191,7 @@ private:
         constexpr int EditWidth = 20;
         constexpr int FormulaWidth = 30;
         _report << "         " << std::left << std::setw(EditWidth) << edit << std::setw(FormulaWidth)
-                << _watched.describe() << _sum.describe() << '\n';
+                << _watched.describe() + "  " << _sum.describe() << '\n';
     }
 
     Table& _table;
@@ -210,7 +210,7 @@ void editSheet(Table& table, std::ostream& report)
     const auto layout = getLayout(table);
     if (!layout || !layout->formulas || *layout->formulas == ColumnIndex(0) ||
         layout->lastRow < layout->firstRow + 3) {
-        report << "         the sheet is too small to be edited\n";
+        report << "         the sheet has too few rows or columns for it\n";
         return;
     }
     Collaborators(table, *layout, report).edit();

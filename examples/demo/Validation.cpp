@@ -67,7 +67,7 @@ void clean(Document copy, std::ostream& report)
 {
     const std::uint64_t before = countTombstones(copy);
     cleanDOM(copy, DOMCleanType::Tombstones);
-    report << "cleaned  a copy of it: " << before << " tombstones before, " << countTombstones(copy)
+    report << "cleaned  a copy of it of its tombstones: " << before << " before, " << countTombstones(copy)
            << " after\n";
 }
 
