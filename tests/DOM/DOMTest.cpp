@@ -18,6 +18,7 @@ const std::set<std::string>& getSourceOnlyHeaders()
     static const std::set<std::string> Headers{
         "DOM/PredefinedStyles/DOM_FailNotImplemented.h",
         "DOM/Properties/DOM_PropertiesResolveUtils.h",
+        "DOM/Tables/DOM_TableRangeMoves.h",
         "DOM/Validator/DOM_RangeSweep.h",
         "DOM/Validator/DOM_ValidatorRules.h",
         "DOM/Validator/DOM_ValidatorTableLevel.h",
