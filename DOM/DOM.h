@@ -250,6 +250,7 @@
 #include "DOM/Tables/DOM_UnaryConditionalFormatOperator.h"
 #include "DOM/Tables/DOM_UniquenessConditionalFormatOperator.h"
 #include "DOM/Tables/DOM_ValueField.h"
+#include "DOM/Tables/DOM_ViewItemIndexTag.h"
 #include "DOM/Tables/Filters/DOM_ByColumnTableFilter.h"
 #include "DOM/Tables/Filters/DOM_CompositeTableFilter.h"
 #include "DOM/Tables/Filters/DOM_NullaryConditionTableFilter.h"
