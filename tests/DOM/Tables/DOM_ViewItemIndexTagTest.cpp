@@ -28,8 +28,8 @@ TEST(ViewItemIndexTagTest, APlaceCountsComparesAndPersistsAsItsNumber)
     ++index;
     EXPECT_EQ(index.get(), 7UL);
     EXPECT_LT(ViewItemIndex(6), index);
-    EXPECT_EQ(toJson(index), R"({"_value":7})");
-    EXPECT_EQ(fromJson<ViewItemIndex>(R"({"_value":7})"), index);
+    EXPECT_EQ(toJson(index), R"({"object":{"_value":7}})");
+    EXPECT_EQ(fromJson<ViewItemIndex>(R"({"object":{"_value":7}})"), index);
 }
 
 } // namespace QN::DOM::ViewItemIndexTagTest
