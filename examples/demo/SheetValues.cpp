@@ -46,10 +46,10 @@ public:
     /// The cell itself: unlike the end of a range, a removed row has no neighbour that would do instead.
     Value operator()(const CellAddress& address) const
     {
-        const auto row =
-            boost::apply_visitor([this](const auto& place) { return find(place); }, address.getRow().getID());
-        const auto column =
-            boost::apply_visitor([this](const auto& place) { return find(place); }, address.getCol().getID());
+        const auto row = boost::apply_visitor([this](const auto& place) { return this->find(place); },
+                                              address.getRow().getID());
+        const auto column = boost::apply_visitor([this](const auto& place) { return this->find(place); },
+                                                 address.getCol().getID());
         if (!row || !column || !isThisTable(address.getTableAddress())) {
             return FormulaError{"#REF!"};
         }
