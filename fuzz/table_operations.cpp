@@ -240,6 +240,12 @@ private:
         }
     }
 
+    /// A row too many moves cells behind the last row: a column that was taken out then cannot come back.
+    bool columnFits() const
+    {
+        return _column && (_column->cells.empty() || _column->cells.back().first.get() < MaxRows);
+    }
+
     void changeColumns()
     {
         const std::uint64_t at = any(_table.getLiveColsCount().get());
@@ -262,7 +268,7 @@ private:
             break;
         case 2:
             if (isInside && isTombstone && hasRoom) {
-                _table.restoreColumn(_column ? std::move(*_column) : line<ColumnData>(), position);
+                _table.restoreColumn(columnFits() ? std::move(*_column) : line<ColumnData>(), position);
                 _column.reset();
             }
             break;
@@ -278,7 +284,7 @@ private:
             }
             break;
         case 6:
-            if (_column && hasRoom) {
+            if (columnFits() && hasRoom) {
                 _table.insertColumn(std::move(*_column),
                                     ColumnIndex(std::min(at, _table.getLiveColsCount().get())));
                 _column.reset();

@@ -181,7 +181,8 @@ public:
     // Columns, as rows. No stored cell moves; removal looks for a cell in each row that is stored.
 
     /// A position behind the live columns fails the contract "position.get() <= _colsCount".
-    /// The cells are stored as by `setCell`, which raises the extent to the end of their merged ranges.
+    /// The cells are stored as by `setCell`, which raises the extent to the end of their merged ranges and stops at a row
+    /// behind the last possible one, as a column has that was taken out after a row too many was inserted.
     void insertColumn(ColumnData columnData, ColumnIndex position);
     void insertColumn(ColumnData columnData, IndexIncludingTombstones position);
     void restoreColumn(ColumnData columnData, IndexIncludingTombstones position);
