@@ -1,6 +1,5 @@
 #include <benchmark/benchmark.h>
 
-#include <chrono>
 #include <memory>
 #include <random>
 #include <sstream>
@@ -8,8 +7,9 @@
 #include <vector>
 
 #include "DOM/DOM.h"
+#include "DocumentText.h"
 #include "HeapCount.h"
-#include "Utils/Public/Archive/JSONArchives.h"
+#include "Timing.h"
 #include "Utils/Public/Archive/RapidJSON.h"
 
 #include <rapidjson/stringbuffer.h>
@@ -21,7 +21,6 @@
 namespace {
 
 using namespace QN::DOM;
-using Clock = std::chrono::steady_clock;
 
 constexpr int Paragraphs = 100000;
 constexpr int RunsInParagraph = 3;
@@ -65,47 +64,27 @@ const Document& getDocument()
     return *document;
 }
 
-std::string save(const Document& document)
-{
-    std::ostringstream stream;
-    {
-        cereal::JSONOutputArchive archive(stream);
-        document.serialize(archive);
-    }
-    return std::move(stream).str();
-}
-
 const std::string& getText()
 {
     static const std::string text = save(getDocument());
     return text;
 }
 
-template <class Function>
-double measure(Function&& function)
-{
-    const auto begin = Clock::now();
-    function();
-    return std::chrono::duration<double>(Clock::now() - begin).count();
-}
-
 /// Runs ours and the floor in turns and reports ours, with the ratio beside it. `cleanUp` follows each pair, unmeasured.
 template <class Ours, class Floor, class CleanUp>
 void compare(benchmark::State& state, Ours&& ours, Floor&& floor, CleanUp&& cleanUp)
 {
-    double oursTotal = 0;
-    double floorTotal = 0;
+    Timing::Stopwatch oursWatch;
+    Timing::Stopwatch floorWatch;
     for (auto _ : state) {
-        floorTotal += measure(floor);
-        const double time = measure(ours);
-        oursTotal += time;
-        state.SetIterationTime(time);
+        floorWatch.measure(floor);
+        state.SetIterationTime(oursWatch.measure(ours));
         cleanUp();
     }
-    state.counters["ratio"] = oursTotal / floorTotal;
-    state.counters["floor_ms"] = floorTotal * 1000 / static_cast<double>(state.iterations());
-    state.counters["MB_per_s"] =
-        static_cast<double>(getText().size()) / 1e6 * static_cast<double>(state.iterations()) / oursTotal;
+    state.counters["ratio"] = oursWatch.getTotal() / floorWatch.getTotal();
+    state.counters["floor_ms"] = floorWatch.getTotal() * 1000 / static_cast<double>(state.iterations());
+    state.counters["MB_per_s"] = static_cast<double>(getText().size()) / 1e6 *
+                                 static_cast<double>(state.iterations()) / oursWatch.getTotal();
 }
 
 void saveBesideWriter(benchmark::State& state)
