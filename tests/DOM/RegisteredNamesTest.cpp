@@ -78,10 +78,27 @@ void expectFamily(TypeList<Ts...> /*types*/, const Names& names)
     }
 }
 
-template <class Root>
-void expectFamily(const Names& names)
+/// A family whose root lists its classes itself.
+template <class RootOfFamily, const Names& NamesOfFamily>
+struct Family {
+    using Root = RootOfFamily;
+    static const Names& getNames() { return NamesOfFamily; }
+};
+
+template <class T>
+class RegisteredFamilyTest : public testing::Test {
+};
+
+using Families = testing::Types<Family<Chart, ChartNames>, Family<ChartAxis, AxisNames>,
+                                Family<Series, SeriesNames>, Family<GraphicalObject, GraphicalObjectNames>,
+                                Family<Fill, FillNames>, Family<LineProps, LineNames>,
+                                Family<Geometry, GeometryNames>, Family<TableFilter, TableFilterNames>>;
+TYPED_TEST_SUITE(RegisteredFamilyTest, Families);
+
+TYPED_TEST(RegisteredFamilyTest, StandsUnderItsNames)
 {
-    expectFamily<Root>(typename Root::Types{}, names);
+    using Root = typename TypeParam::Root;
+    expectFamily<Root>(typename Root::Types{}, TypeParam::getNames());
 }
 
 TEST(RegisteredNamesTest, AreTheNinetyFiveOfTheModelAndNoOthers)
@@ -96,49 +113,9 @@ TEST(RegisteredNamesTest, AreTheNinetyFiveOfTheModelAndNoOthers)
     EXPECT_EQ(registered, getModelNames());
 }
 
-TEST(RegisteredNamesTest, ChartsStandUnderTheirs)
-{
-    expectFamily<Chart>(ChartNames);
-}
-
-TEST(RegisteredNamesTest, AxesStandUnderTheirs)
-{
-    expectFamily<ChartAxis>(AxisNames);
-}
-
-TEST(RegisteredNamesTest, SeriesStandUnderTheirs)
-{
-    expectFamily<Series>(SeriesNames);
-}
-
 TEST(RegisteredNamesTest, BlocksStandUnderTheirs)
 {
     expectFamily<Block>(TypeList<Paragraph, Table, SectionTag, Shape, FieldBlock>{}, BlockNames);
-}
-
-TEST(RegisteredNamesTest, GraphicalObjectsStandUnderTheirs)
-{
-    expectFamily<GraphicalObject>(GraphicalObjectNames);
-}
-
-TEST(RegisteredNamesTest, FillsStandUnderTheirs)
-{
-    expectFamily<Fill>(FillNames);
-}
-
-TEST(RegisteredNamesTest, LinesStandUnderTheirs)
-{
-    expectFamily<LineProps>(LineNames);
-}
-
-TEST(RegisteredNamesTest, GeometriesStandUnderTheirs)
-{
-    expectFamily<Geometry>(GeometryNames);
-}
-
-TEST(RegisteredNamesTest, TableFiltersStandUnderTheirs)
-{
-    expectFamily<TableFilter>(TableFilterNames);
 }
 
 TEST(RegisteredNamesTest, RunsStandUnderTheirs)

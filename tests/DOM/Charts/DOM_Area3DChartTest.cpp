@@ -2,31 +2,20 @@
 
 #include <gtest/gtest.h>
 
-#include "DOM/Charts/KindSamples.h"
+#include "DOM/Charts/GroupedChartChecks.h"
 
 namespace QN::DOM::Area3DChartTest {
-namespace {
 
 using namespace Test;
 
-constexpr const char* CommonKeys =
-    R"("_grouping":{"hasValue":false},"_dropLines":{"ptr_wrapper":{"valid":0}})";
-
 TEST(Area3DChart, HasTheDefaultsOfItsKind)
 {
-    expectDefaultChart<Area3DChart>("Area3DChart", CommonKeys, R"("_gapDepth":150)");
+    expectDefaultChart<Area3DChart>("Area3DChart", DefaultGroupedChartKeys, R"("_gapDepth":150)");
 }
 
 TEST(Area3DChart, KeepsItsGapDepth)
 {
-    Area3DChart chart;
-    EXPECT_EQ(chart.getGapDepth(), 150);
-    chart.setGapDepth(65535);
-    EXPECT_EQ(chart.getGapDepth(), 65535);
-    EXPECT_NE(chart, Area3DChart());
-    expectText(chart, makeChartJson(CommonKeys, R"("_gapDepth":65535)"));
-    expectCopiesAndMoves(chart);
+    expectKeepsGapDepth<Area3DChart>();
 }
 
-} // namespace
 } // namespace QN::DOM::Area3DChartTest

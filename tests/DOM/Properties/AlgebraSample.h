@@ -25,27 +25,6 @@ struct Part {
     BoolOpt bold;
 };
 BOOST_DESCRIBE_STRUCT(Part, (), (size, bold))
-inline bool operator==(const Part& left, const Part& right)
-{
-    return areAllMembersEqual(left, right);
-}
-
-inline void override(Part& target, const Part& other)
-{
-    overrideAllMembers(target, other);
-}
-inline void exclude(Part& target, const Part& other)
-{
-    excludeAllMembers(target, other);
-}
-inline void intersect(Part& target, const Part& other)
-{
-    intersectAllMembers(target, other);
-}
-inline void rebaseProperty(Part& target, const Part& replacement, const Part& left, const Part& right)
-{
-    rebaseAllMembers(target, replacement, left, right);
-}
 
 /// Has no operations of its own.
 struct Label {
@@ -68,24 +47,32 @@ struct Sample {
 };
 BOOST_DESCRIBE_STRUCT(Sample, (),
                       (plain, number, flag, choice, composite, atomic, polymorphic, underline, tabs))
-inline bool operator==(const Sample& left, const Sample& right)
+
+template <class T>
+concept PropertySet = std::is_same_v<T, Part> || std::is_same_v<T, Sample>;
+
+template <PropertySet T>
+bool operator==(const T& left, const T& right)
 {
     return areAllMembersEqual(left, right);
 }
-
-inline void override(Sample& target, const Sample& other)
+template <PropertySet T>
+void override(T& target, const T& other)
 {
     overrideAllMembers(target, other);
 }
-inline void exclude(Sample& target, const Sample& other)
+template <PropertySet T>
+void exclude(T& target, const T& other)
 {
     excludeAllMembers(target, other);
 }
-inline void intersect(Sample& target, const Sample& other)
+template <PropertySet T>
+void intersect(T& target, const T& other)
 {
     intersectAllMembers(target, other);
 }
-inline void rebaseProperty(Sample& target, const Sample& replacement, const Sample& left, const Sample& right)
+template <PropertySet T>
+void rebaseProperty(T& target, const T& replacement, const T& left, const T& right)
 {
     rebaseAllMembers(target, replacement, left, right);
 }

@@ -6,6 +6,7 @@
 
 #include "DOM/Tables/DOM_RowColumnID.h"
 #include "DOM/Tables/TablePrinters.h"
+#include "DOM/Tables/TableSamples.h"
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
@@ -13,17 +14,6 @@ namespace QN::DOM::MergedCellsCacheTest {
 namespace {
 
 using namespace QN::Test;
-
-TableRange makeRange(std::uint64_t beginRow, std::uint64_t endRow, std::uint64_t beginColumn,
-                     std::uint64_t endColumn)
-{
-    return {RowIndex(beginRow), RowIndex(endRow), ColumnIndex(beginColumn), ColumnIndex(endColumn)};
-}
-
-CellIndex makeIndex(std::uint64_t row, std::uint64_t column)
-{
-    return {RowIndex(row), ColumnIndex(column)};
-}
 
 MergedCellsCache makeCache(const std::vector<TableRange>& ranges)
 {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "DOM/Tables/TablePrinters.h"
+#include "DOM/Tables/TableSamples.h"
 #include "DOM/ValueChecks.h"
 #include "Support/ValueText.h"
 
@@ -12,17 +13,6 @@ namespace QN::DOM::PivotTablesCacheTest {
 namespace {
 
 using namespace QN::Test;
-
-TableRange makeRange(std::uint64_t beginRow, std::uint64_t endRow, std::uint64_t beginColumn,
-                     std::uint64_t endColumn)
-{
-    return {RowIndex(beginRow), RowIndex(endRow), ColumnIndex(beginColumn), ColumnIndex(endColumn)};
-}
-
-CellIndex makeIndex(std::uint64_t row, std::uint64_t column)
-{
-    return {RowIndex(row), ColumnIndex(column)};
-}
 
 /// Areas of 3 columns and 2 rows.
 PivotTablesCache makeCache(const std::vector<CellIndex>& roots)

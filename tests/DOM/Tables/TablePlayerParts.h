@@ -1,12 +1,13 @@
 #pragma once
 
+#include <memory>
+#include <ostream>
 #include <string>
-#include <utility>
 
 #include "DOM/Tables/TableModel.h"
 #include "DOM/Tables/TableSamples.h"
 
-/// What `TablePlayer` is made of: random numbers, and the operations of rows and columns under common names.
+/// What `TablePlayer` is made of: the table and the model that are played, and random numbers.
 
 namespace QN::Test {
 
@@ -43,70 +44,55 @@ private:
     Number _state;
 };
 
-struct RowAxis {
-    using Data = DOM::RowData;
-    using Index = RowIndex;
-    using ID = DOM::RowID;
-    using Style = DOM::RowStyle;
-    static constexpr const char* Name = "row";
+/// A table and its model, which are given the same operations, and what these are made of.
+class PlayedTable {
+public:
+    /// The extent stays about below `extent`. What is done is told to `log`, which may be null.
+    PlayedTable(Number maxChunkSize, const Pair& extent, std::ostream* log)
+        : table(maxChunkSize), model(DOM::MaxRows, DOM::MaxColumns), limits(extent), _log(log)
+    {
+    }
+    PlayedTable(const PlayedTable&) = delete;
+    PlayedTable& operator=(const PlayedTable&) = delete;
 
-    static ModelAxis& get(TableModel& model) { return model.rows; }
-    static const ModelAxis& getOther(const TableModel& model) { return model.columns; }
-    static void insert(TableModel& model, const ModelLine& line, Number at) { model.insertRow(line, at); }
-    static ModelLine remove(TableModel& model, Number at) { return model.removeRow(at); }
+    template <class... Ts>
+    void tell(const Ts&... parts)
+    {
+        if (_log != nullptr) {
+            ((*_log << parts << " "), ...) << std::endl;
+        }
+    }
 
-    template <class At>
-    static void insert(DOM::Table& table, Data data, At at)
-    {
-        table.insertRow(std::move(data), at);
-    }
-    static void restore(DOM::Table& table, Data data, DOM::Table::IndexIncludingTombstones at)
-    {
-        table.restoreRow(std::move(data), at);
-    }
-    template <class At>
-    static Data remove(DOM::Table& table, At at)
-    {
-        return table.removeRow(at);
-    }
-    static Data replace(DOM::Table& table, DOM::Table::IndexIncludingTombstones at)
-    {
-        return table.replaceRowWithTombstone(at);
-    }
-    static void clear(DOM::Table& table) { table.clearRowTombstones(); }
+    /// A cell with a number of its own, which may be merged and may hold a pivot table.
+    std::unique_ptr<DOM::Cell> makeCell(Numbers& numbers, ModelCell& modelCell);
+    /// Another number for each row or column that is made.
+    Number countLine() { return ++_lastLine; }
+
+    DOM::Table table;
+    TableModel model;
+    const Pair limits;
+
+private:
+    std::ostream* _log;
+    int _lastNumber = 0;
+    Number _lastLine = 0;
 };
 
-struct ColumnAxis {
-    using Data = DOM::ColumnData;
-    using Index = ColumnIndex;
-    using ID = DOM::ColumnID;
-    using Style = DOM::ColumnStyle;
-    static constexpr const char* Name = "column";
-
-    static ModelAxis& get(TableModel& model) { return model.columns; }
-    static const ModelAxis& getOther(const TableModel& model) { return model.rows; }
-    static void insert(TableModel& model, const ModelLine& line, Number at) { model.insertColumn(line, at); }
-    static ModelLine remove(TableModel& model, Number at) { return model.removeColumn(at); }
-
-    template <class At>
-    static void insert(DOM::Table& table, Data data, At at)
-    {
-        table.insertColumn(std::move(data), at);
+inline std::unique_ptr<DOM::Cell> PlayedTable::makeCell(Numbers& numbers, ModelCell& modelCell)
+{
+    modelCell.number = ++_lastNumber;
+    auto cell = makeNumberCell(modelCell.number);
+    modelCell.address = cell.get();
+    if (numbers.isOneIn(6)) {
+        modelCell.captured = {numbers.below(3), numbers.below(3)};
+        cell->setMergeProps(DOM::CellMergeProps(modelCell.captured.first, modelCell.captured.second));
     }
-    static void restore(DOM::Table& table, Data data, DOM::Table::IndexIncludingTombstones at)
-    {
-        table.restoreColumn(std::move(data), at);
+    if (numbers.isOneIn(8)) {
+        modelCell.pivotSize = {1 + numbers.below(3), 1 + numbers.below(3)};
+        cell->setPivotTable(makePivotTable(static_cast<unsigned int>(modelCell.pivotSize.second),
+                                           static_cast<unsigned int>(modelCell.pivotSize.first)));
     }
-    template <class At>
-    static Data remove(DOM::Table& table, At at)
-    {
-        return table.removeColumn(at);
-    }
-    static Data replace(DOM::Table& table, DOM::Table::IndexIncludingTombstones at)
-    {
-        return table.replaceColWithTombstone(at);
-    }
-    static void clear(DOM::Table& table) { table.clearColumnTombstones(); }
-};
+    return cell;
+}
 
 } // namespace QN::Test

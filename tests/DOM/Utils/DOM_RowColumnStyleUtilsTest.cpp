@@ -10,7 +10,9 @@
 
 #include "DOM/Tables/Properties/DOM_ColumnProps.h"
 #include "DOM/Tables/Properties/DOM_RowProps.h"
+#include "DOM/Tables/TableAxes.h"
 #include "DOM/Tables/TableInspection.h"
+#include "Support/RoundTrip.h"
 
 namespace QN::DOM::RowColumnStyleUtilsTest {
 
@@ -55,30 +57,38 @@ Cell& getOrCreateCell(Table& table, std::uint64_t row, std::uint64_t column)
     return table.getOrCreateCell(RowIndex(row), ColumnIndex(column));
 }
 
-TEST(GetSparseDataWithPropsTest, ARowIsCopiedWithItsIdentifierItsStyleAndItsCells)
+/// What is alike for a row and for a column.
+template <class Axis>
+class GetSparseDataWithPropsOfAxisTest : public testing::Test {
+};
+
+using Axes = testing::Types<RowAxis, ColumnAxis>;
+TYPED_TEST_SUITE(GetSparseDataWithPropsOfAxisTest, Axes);
+
+TYPED_TEST(GetSparseDataWithPropsOfAxisTest, ARowOrColumnIsCopiedWithItsIdentifierItsStyleAndItsCells)
 {
+    const typename TypeParam::Index index(1);
     Table table = makeGrid(3, 3);
-    const auto style = makeStyle<RowStyle>('5');
-    table.setSharedStyle(style, RowIndex(1));
+    const auto style = makeStyle<typename TypeParam::Style>('5');
+    table.setSharedStyle(style, index);
     const std::string before = toJson(table);
-    const RowData row = getRow(table, 1);
-    EXPECT_EQ(row.id, table.getID(RowIndex(1)));
-    EXPECT_EQ(row.style, style);
-    EXPECT_EQ(getCells(row), "0=10 1=11 2=12");
+    const typename TypeParam::Data data = getSparseDataWithProps(table, index);
+    EXPECT_EQ(data.id, table.getID(index));
+    EXPECT_EQ(data.style, style);
+    EXPECT_EQ(getCells(data), TypeParam::Data::IsRow ? "0=10 1=11 2=12" : "0=1 1=11 2=21");
     EXPECT_EQ(toJson(table), before);
 }
 
-TEST(GetSparseDataWithPropsTest, AColumnIsCopiedWithItsIdentifierItsStyleAndItsCells)
+TYPED_TEST(GetSparseDataWithPropsOfAxisTest, ARemovedRowOrColumnComesBackFromItsCopy)
 {
+    const typename TypeParam::Index index(1);
     Table table = makeGrid(3, 3);
-    const auto style = makeStyle<ColumnStyle>('5');
-    table.setSharedStyle(style, ColumnIndex(1));
-    const std::string before = toJson(table);
-    const ColumnData column = getColumn(table, 1);
-    EXPECT_EQ(column.id, table.getID(ColumnIndex(1)));
-    EXPECT_EQ(column.style, style);
-    EXPECT_EQ(getCells(column), "0=1 1=11 2=21");
-    EXPECT_EQ(toJson(table), before);
+    table.setSharedStyle(makeStyle<typename TypeParam::Style>('5'), index);
+    const Table before = table;
+    typename TypeParam::Data copy = getSparseDataWithProps(table, index);
+    TypeParam::remove(table, index);
+    TypeParam::insert(table, std::move(copy), index);
+    EXPECT_TRUE(table == before);
 }
 
 TEST(GetSparseDataWithPropsTest, CellsAreCopiedDeeply)
@@ -211,28 +221,6 @@ TEST(GetSparseDataWithPropsTest, ARowOrColumnBehindTheLastHasNoCells)
     EXPECT_EQ(getCells(getRow(table, 2)), "");
     EXPECT_EQ(getColumn(table, MaxColumns - 1).id, ColumnID(MaxColumns));
     EXPECT_EQ(getCells(getColumn(table, MaxColumns - 1)), "");
-}
-
-TEST(GetSparseDataWithPropsTest, ARemovedRowComesBackFromItsCopy)
-{
-    Table table = makeGrid(3, 3);
-    table.setSharedStyle(makeStyle<RowStyle>('5'), RowIndex(1));
-    const Table before = table;
-    RowData copy = getRow(table, 1);
-    table.removeRow(RowIndex(1));
-    table.insertRow(std::move(copy), RowIndex(1));
-    EXPECT_TRUE(table == before);
-}
-
-TEST(GetSparseDataWithPropsTest, ARemovedColumnComesBackFromItsCopy)
-{
-    Table table = makeGrid(3, 3);
-    table.setSharedStyle(makeStyle<ColumnStyle>('5'), ColumnIndex(1));
-    const Table before = table;
-    ColumnData copy = getColumn(table, 1);
-    table.removeColumn(ColumnIndex(1));
-    table.insertColumn(std::move(copy), ColumnIndex(1));
-    EXPECT_TRUE(table == before);
 }
 
 TEST(GetSparseDataWithPropsDeathTest, ATableWithoutColumnsHasNoRowToCopy)

@@ -11,10 +11,6 @@
 #include <utility>
 #include <vector>
 
-#include "DOM/DOM_FieldBlock.h"
-#include "DOM/DOM_SectionTag.h"
-#include "DOM/Shapes/DOM_Shape.h"
-#include "DOM/Tables/DOM_Table.h"
 #include "DOM/TextSamples.h"
 #include "Support/AllocationCount.h"
 #include "Utils/Public/UTF8.h"
@@ -72,19 +68,6 @@ std::string getError(Action action)
         return error.what();
     }
     return "<none>";
-}
-
-template <class... Ptrs>
-std::vector<std::unique_ptr<Block>> makeBlocks(Ptrs... blocks)
-{
-    std::vector<std::unique_ptr<Block>> result;
-    (result.push_back(std::move(blocks)), ...);
-    return result;
-}
-
-std::string getText(const std::vector<std::unique_ptr<Block>>& blocks)
-{
-    return getTextFromParagraphs(blocks);
 }
 
 /// Malformed texts, each with the message of the exception.
@@ -320,7 +303,7 @@ TEST(SplitTextIntoParagraphsTest, ParagraphsAreOneMoreThanLineEndsAndGiveTheText
             blocks.push_back(std::move(paragraph));
         });
         ASSERT_EQ(blocks.size(), expected.size()) << text;
-        ASSERT_EQ(getText(blocks), text);
+        ASSERT_EQ(getTextFromParagraphs(blocks), text);
     }
 }
 
@@ -371,65 +354,6 @@ TEST(SplitTextIntoParagraphsTest, WorkGrowsWithTheText)
             [&] { splitTextIntoParagraphs(text, [](std::unique_ptr<Paragraph> /*paragraph*/) {}); });
     };
     EXPECT_LE(countFor(10000), 11 * countFor(1000));
-}
-
-TEST(GetTextFromParagraphsTest, NoBlocksHaveNoText)
-{
-    EXPECT_EQ(getText({}), "");
-}
-
-TEST(GetTextFromParagraphsTest, ALineFeedStandsBetweenParagraphs)
-{
-    EXPECT_EQ(getText(makeBlocks(makeParagraph({"a"}))), "a");
-    EXPECT_EQ(getText(makeBlocks(makeParagraph({"a", "b"}), makeParagraph({"c"}))), "ab\nc");
-}
-
-TEST(GetTextFromParagraphsTest, EmptyParagraphsCountOnlyBehindSomeText)
-{
-    EXPECT_EQ(getText(makeBlocks(makeParagraph({}))), "");
-    EXPECT_EQ(getText(makeBlocks(makeParagraph({}), makeParagraph({"a"}))), "a");
-    EXPECT_EQ(getText(makeBlocks(makeParagraph({}), makeParagraph({}), makeParagraph({"a"}))), "a");
-    EXPECT_EQ(getText(makeBlocks(makeParagraph({"a"}), makeParagraph({}), makeParagraph({}))), "a\n\n");
-    EXPECT_EQ(getText(makeBlocks(makeParagraph({"a"}), makeParagraph({}), makeParagraph({"b"}))), "a\n\nb");
-    EXPECT_EQ(getText(makeBlocks(makeParagraph({""}), makeParagraph({"a"}))), "a");
-}
-
-TEST(GetTextFromParagraphsTest, EveryKindOfRunGivesItsText)
-{
-    auto paragraph = std::make_unique<Paragraph>();
-    paragraph->getRuns() = makeOneRunOfEachKind();
-    std::string expected;
-    for (const DOM::Run& run : std::as_const(*paragraph).getRuns()) {
-        expected += run.getText();
-    }
-    EXPECT_EQ(expected.substr(0, 5), "text\t");
-    EXPECT_EQ(getText(makeBlocks(std::move(paragraph))), expected);
-}
-
-TEST(GetTextFromParagraphsTest, BlocksOfOtherKindsAndTheTextInsideThemAddNothing)
-{
-    auto table = std::make_unique<Table>();
-    table->getOrCreateCell(RowIndex(0), ColumnIndex(0)).getRawBlocks().push_back(makeParagraph({"cell"}));
-    auto shape = std::make_unique<Shape>();
-    shape->getTextWithTombstones().getBlocks().push_back(makeParagraph({"shape"}));
-    const auto blocks =
-        makeBlocks(std::move(table), makeParagraph({"a"}), std::move(shape), std::make_unique<SectionTag>(),
-                   std::make_unique<FieldBlock>(), makeParagraph({"b"}));
-    EXPECT_EQ(getText(blocks), "a\nb");
-}
-
-TEST(GetTextFromParagraphsDeathTest, ANullBlockBreaksTheContract)
-{
-    const auto blocks = makeBlocks(makeParagraph({"a"}), std::unique_ptr<Block>());
-    EXPECT_DEATH(static_cast<void>(getText(blocks)), "Utils/Public/Ptr/PtrUtils:254: plainPtr\n");
-}
-
-TEST(GetTextFromParagraphsDeathTest, ANullRunBreaksTheContract)
-{
-    auto paragraph = makeParagraph({"a"});
-    paragraph->getRuns().push_back(nullptr);
-    const auto blocks = makeBlocks(std::move(paragraph));
-    EXPECT_DEATH(static_cast<void>(getText(blocks)), "Utils/Public/Ptr/PtrUtils:254: plainPtr\n");
 }
 
 } // namespace
