@@ -22,7 +22,8 @@ enum class HeaderFooterType : unsigned char { Header = 0, Footer = 1 };
 /// `UUID`, so that the pages of one section can differ.
 ///
 /// Both texts are there from the start. One that is missing, as after a move from the pair, fails the contract "plainPtr"
-/// when it is read. A side above the last fails the contract "Unknown header footer type". Copies are deep.
+/// when it is read. Setting a text destroys the former one: references to it dangle. A side above the last fails the
+/// contract "Unknown header footer type". Copies are deep.
 class DOM_API HeaderFooterPair final : public Reflectable<UUIDable> {
 public:
     HeaderFooterPair() = default;

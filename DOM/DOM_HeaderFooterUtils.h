@@ -16,13 +16,13 @@ using PageIndex = TaggedValue<unsigned long, PageIndexTag>;
 /// The headers and footers of a page of a section; null when the section has none.
 ///
 /// Each page takes the next pair of the section's chain. The last pair of a chain governs all later pages, and two pairs
-/// that follow each other take the odd and the even pages. Linear in the number of pairs, whatever the page.
+/// that follow each other take the odd and the even pages. At most a few look-ups for each pair, whatever the page.
 DOM_API const HeaderFooterPair* getHeaderFooter(const SectionProps& section,
                                                 const UUIDContainer<HeaderFooterPair>& pairs,
                                                 PageIndex pageIndex);
 
-/// The pair of a section's first page, if only that page has it: null unless another pair follows and none, itself
-/// included, leads back to it. Linear in the number of pairs.
+/// The first pair of a section, if it names a next one, which need not exist, and no pair of `pairs`, itself included,
+/// names it as next; else null. So a lone pair gives null. Linear in the number of pairs.
 DOM_API const HeaderFooterPair* getLeadingHeaderFooterIfUnique(const SectionProps& section,
                                                                const UUIDContainer<HeaderFooterPair>& pairs);
 

@@ -6,6 +6,7 @@
 #include "DOM/DOM_NumberedListName.h"
 #include "DOM/DOM_NumberingLevel.h"
 #include "Utils/Public/ClassScheme/Declare.h"
+#include "Utils/Public/ReadonlyVector.h"
 #include "Utils/Public/Reflectable.h"
 #include "Utils/Public/UUIDable.h"
 
@@ -19,8 +20,8 @@ public:
     QN_DEEP_COPY(NumberedList)
     ~NumberedList() override = default;
 
-    /// A null level can come from a file; it stays.
-    const std::vector<std::unique_ptr<NumberingLevel>>& getNumberingLevels() const { return _levels; }
+    /// A null level can come from a file; it stays. Reading it through the const form fails the contract "plainPtr".
+    ReadonlyPtrVector<NumberingLevel> getNumberingLevels() const { return _levels; }
     std::vector<std::unique_ptr<NumberingLevel>>& getNumberingLevels() { return _levels; }
 
     NumberedListName getName() const { return _name; }

@@ -192,9 +192,9 @@ std::vector<NumberedList> createPredefinedNumLists(const SharedObjectFactory& fa
 void appendPredefinedNumLists(const SharedObjectFactory& factory, std::vector<NumberedList>& lists)
 {
     for (NumberedList& predefined : createPredefinedNumLists(factory)) {
-        const bool isThere = std::any_of(lists.begin(), lists.end(), [&](const NumberedList& list) {
-            return areMembersDeeplyEqual(list.getNumberingLevels(),
-                                         std::as_const(predefined).getNumberingLevels());
+        // The const form could not look at a null level.
+        const bool isThere = std::any_of(lists.begin(), lists.end(), [&](NumberedList& list) {
+            return areMembersDeeplyEqual(list.getNumberingLevels(), predefined.getNumberingLevels());
         });
         if (!isThere) {
             lists.push_back(std::move(predefined));

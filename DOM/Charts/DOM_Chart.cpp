@@ -1,5 +1,9 @@
 #include "DOM/Charts/DOM_Chart.h"
 
+#include <memory>
+#include <utility>
+#include <vector>
+
 #include "DOM/Charts/DOM_Area3DChart.h"
 #include "DOM/Charts/DOM_AreaChart.h"
 #include "DOM/Charts/DOM_Bar3DChart.h"
@@ -55,7 +59,8 @@ Chart::Chart(const Chart& other) : Clonable<Chart>(other), Reflectable<>(other)
 
 void Chart::copyBaseProperties(const Chart& other)
 {
-    // The new list is complete before the old one goes, since `other` may be this chart.
+    // All that is new is complete before anything old goes: `other` may be this chart, or stand in the text of one of
+    // its labels and go with it.
     const std::unique_ptr<Series> prototype = makeCompatibleSeries(*this);
     std::vector<std::unique_ptr<Series>> series;
     series.reserve(other.getLiveSeries().size());
@@ -64,12 +69,18 @@ void Chart::copyBaseProperties(const Chart& other)
         series.back()->copyBaseProperties(source);
     }
 
+    auto axesIndexes = other._axesIndexes;
+    auto groupDataLabel = other._groupDataLabel;
+    auto categories = other._categories;
+    auto xValues = other._xValues;
+    const BoolOpt varyColors = other._varyColors;
+
     _series = SeriesCollection(std::move(series));
-    _axesIndexes = deepCopy(other._axesIndexes);
-    _groupDataLabel = deepCopy(other._groupDataLabel);
-    _categories = deepCopy(other._categories);
-    _xValues = deepCopy(other._xValues);
-    _varyColors = other._varyColors;
+    _axesIndexes = std::move(axesIndexes);
+    _groupDataLabel = std::move(groupDataLabel);
+    _categories = std::move(categories);
+    _xValues = std::move(xValues);
+    _varyColors = varyColors;
 }
 
 } // namespace QN::DOM

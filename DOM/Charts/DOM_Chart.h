@@ -32,7 +32,7 @@ class ScatterChart;
 class Scatter3DChart;
 
 /// The root of the kinds of charts. The flat and the 3D chart of a kind are siblings under a common base, and take the
-/// same class of series. Copies are deep.
+/// same class of series. Copies are deep but for the run properties of the series, which are immutable and shared.
 class DOM_API Chart : public Clonable<Chart>, public Reflectable<> {
 public:
     using Types = TypeList<AreaChart, Area3DChart, BarChart, Bar3DChart, LineChart, Line3DChart, PieChart,
@@ -44,10 +44,11 @@ public:
 
     Chart& operator=(const Chart&) = delete;
 
-    /// Turns `other` into a chart of this kind: takes over all that is declared here, with the series changed to the
-    /// class that suits this chart. What a series' class or a chart's kind adds does not carry over, nor do the
-    /// tombstones. Shares nothing with `other`, which may be the chart itself. A null series of `other` fails the
-    /// contract "plainPtr".
+    /// Takes over all that is declared here, with the series changed to the class that suits this chart: so a chart
+    /// becomes one of another kind. What a series' class or a chart's kind adds does not carry over, nor do the
+    /// tombstones. Shares with `other` no more than `Series::copyBaseProperties` does. `other` may be the chart itself,
+    /// or stand in the text of one of its labels and go with it. An exception leaves the chart as it was. A null series
+    /// of `other` fails the contract "plainPtr".
     void copyBaseProperties(const Chart& other);
 
     ReadonlyPtrVector<Series> getLiveSeries() const { return _series.getElements(); }

@@ -5,6 +5,7 @@
 
 namespace QN::DOM {
 
+QN_DEFINE_DEEP_COPY(ChartTitle)
 QN_DEFINE_VALUE(ChartTitle)
 
 } // namespace QN::DOM

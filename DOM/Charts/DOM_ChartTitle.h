@@ -35,6 +35,9 @@ public:
     /// Literal text, or formulas that refer to the cells that hold it.
     using Text = boost::variant<TextWithTombstones, std::vector<Formula>>;
 
+    ChartTitle() = default;
+    QN_DEEP_COPY(ChartTitle)
+
     const boost::optional<Text>& getText() const { return _text; }
     boost::optional<Text>& getText() { return _text; }
 

@@ -17,7 +17,8 @@
 namespace QN::DOM {
 
 /// The charts, of one kind or of several, and the axes that they share. Charts and axes refer to axes by position, so the
-/// order of the axes is data. Copies are deep.
+/// order of the axes is data. Copies are deep but for the run properties of series, axes and titles, which are
+/// immutable and shared.
 class DOM_API PlotArea {
 public:
     PlotArea() = default;

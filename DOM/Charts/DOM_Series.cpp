@@ -1,5 +1,8 @@
 #include "DOM/Charts/DOM_Series.h"
 
+#include <memory>
+#include <utility>
+
 #include "DOM/Charts/DOM_AreaSeries.h"
 #include "DOM/Charts/DOM_BarSeries.h"
 #include "DOM/Charts/DOM_LineSeries.h"
@@ -34,10 +37,14 @@ Series::Series(const Series& other) : Clonable<Series>(other), Reflectable<>(oth
 
 void Series::copyBaseProperties(const Series& other)
 {
-    copyAllMembers(*this, other);
-    if (_runProps) {
-        _runProps = std::make_shared<const RunProps>(*_runProps);
+    // The copy is complete before anything old goes: `other` may be this series, or stand in the text of one of its
+    // labels and go with it.
+    std::unique_ptr<Series> copy;
+    other.cloneTo(copy);
+    if (copy->_runProps) {
+        copy->_runProps = std::make_shared<const RunProps>(*copy->_runProps);
     }
+    *this = std::move(*copy);
 }
 
 } // namespace QN::DOM

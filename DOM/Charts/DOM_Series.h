@@ -28,7 +28,8 @@ class ScatterSeries;
 class RunProps;
 
 /// The root of the series of charts. A series refers to the cells that hold its data and keeps no numbers of its own.
-/// Copies are deep but for the run properties, which are immutable and shared; equality looks into them.
+/// Copies are deep but for the run properties, which are immutable and shared (`copyBaseProperties` alone copies them);
+/// equality looks into them.
 class DOM_API Series : public Clonable<Series>, public Reflectable<> {
 public:
     using Types = TypeList<AreaSeries, BarSeries, LineSeries, PieSeries, ScatterSeries>;
@@ -37,8 +38,9 @@ public:
     Series& operator=(const Series&) = delete;
 
     /// Takes over all that is declared here, and nothing that a class of the family adds. Shares nothing with `other`:
-    /// the run properties are copied, too, though their font and underline stay shared as in every copy of them.
-    /// `other` may be the series itself.
+    /// the run properties are copied, too. Only what each copy of these shares stays shared, their font and underline,
+    /// and what each copy of a label's text shares: its styles, and what its frames show. `other` may be the series
+    /// itself, or stand in the text of one of its labels and go with it. An exception leaves the series as it was.
     void copyBaseProperties(const Series& other);
 
     unsigned long getIdx() const { return _idx; }

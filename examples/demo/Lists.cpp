@@ -110,7 +110,7 @@ const NumberingLevel* ListMarkers::findLevel(const Paragraph& paragraph) const
     const NumberedList* const list = ref ? findList(*ref) : nullptr;
     const unsigned long index = ref ? ref->getLevel().value_or(0) : 0;
     const bool isThere = list != nullptr && index < list->getNumberingLevels().size();
-    return isThere ? list->getNumberingLevels()[index].get() : nullptr;
+    return isThere ? list->getNumberingLevels().getPointer(index) : nullptr;
 }
 
 std::string ListMarkers::getNext(const Paragraph& paragraph)
@@ -125,12 +125,12 @@ std::string ListMarkers::getNext(const Paragraph& paragraph)
     }
 
     const NumberingRef& ref = *paragraph.getNumRef();
-    const auto& levels = findList(ref)->getNumberingLevels();
+    const auto levels = findList(ref)->getNumberingLevels();
     const unsigned long index = ref.getLevel().value_or(0);
     auto& counts = _counts[ref.getListTagUUID() ? ref.getListTagUUID()->get() : ref.getNumListUUID()->get()];
     // This level goes on, those above it have begun, those below it begin anew.
     while (counts.size() <= index) {
-        const auto& marker = levels[counts.size()]->getListMarker();
+        const auto& marker = levels[counts.size()].getListMarker();
         const unsigned long first = marker ? marker->getStartIndex().value_or(1) : 1;
         counts.push_back(counts.size() == index ? first - 1 : first);
     }
@@ -141,7 +141,7 @@ std::string ListMarkers::getNext(const Paragraph& paragraph)
     for (std::size_t i = 0; i < expr.size(); ++i) {
         const std::size_t named = i + 1 < expr.size() ? static_cast<std::size_t>(expr[i + 1] - '1') : 9;
         if (expr[i] == '%' && named < counts.size()) {
-            text += toText(counts[named], getType(*levels[named]));
+            text += toText(counts[named], getType(levels[named]));
             ++i;
         } else {
             text += expr[i];

@@ -71,14 +71,29 @@ TEST(NumberedListTest, PersistsWithNullLevels)
 TEST(NumberedListTest, ACopyOwnsItsLevelsAndSharesTheirMarkers)
 {
     const NumberedList list = makeList();
-    const NumberedList copy(list);
+    NumberedList copy(list);
     EXPECT_EQ(copy, list);
     EXPECT_EQ(copy.getUUID(), list.getUUID());
-    EXPECT_NE(copy.getNumberingLevels()[0], list.getNumberingLevels()[0]);
+    EXPECT_NE(copy.getNumberingLevels()[0].get(), &list.getNumberingLevels()[0]);
     EXPECT_EQ(copy.getNumberingLevels()[1], nullptr);
-    EXPECT_EQ(copy.getNumberingLevels()[0]->getListMarker(), list.getNumberingLevels()[0]->getListMarker());
+    EXPECT_EQ(copy.getNumberingLevels()[0]->getListMarker(), list.getNumberingLevels()[0].getListMarker());
     copy.getNumberingLevels()[0]->setListMarker(nullptr);
     EXPECT_EQ(list, makeList());
+}
+
+TEST(NumberedListTest, AConstListGivesItsLevelsForReadingOnly)
+{
+    const NumberedList list = makeList();
+    static_assert(std::is_same_v<decltype(list.getNumberingLevels()[0]), const NumberingLevel&>);
+    EXPECT_EQ(list.getNumberingLevels().size(), 3U);
+    EXPECT_EQ(list.getNumberingLevels()[2], *makeLevel(2));
+    EXPECT_EQ(list.getNumberingLevels().getPointer(1), nullptr);
+}
+
+TEST(NumberedListDeathTest, ReadingANullLevelOfAConstListFailsTheContract)
+{
+    const NumberedList list = makeList();
+    EXPECT_DEATH(list.getNumberingLevels()[1], "Utils/Public/Ptr/PtrUtils:254: plainPtr");
 }
 
 TEST(NumberedListTest, IdentityLevelsAndNameTakePartInEquality)

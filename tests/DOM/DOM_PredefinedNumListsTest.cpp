@@ -37,6 +37,17 @@ const NumberedList& getList(const std::vector<NumberedList>& lists, int name)
     return lists.front();
 }
 
+std::vector<int> getNames(const std::vector<NumberedList>& lists)
+{
+    std::vector<int> names;
+    for (const NumberedList& list : lists) {
+        names.push_back(static_cast<int>(list.getName()));
+    }
+    return names;
+}
+
+const std::vector<int> NamesInOrder{3, 4, 5, 7, 6, 8, 9, 10, 12, 16, 13, 15, 14, 17, 11};
+
 /// Checks a level as a whole: what it is made of, and that there is nothing else to it.
 void expectLevel(const NumberedList& list, std::size_t level, int type, const std::string& text,
                  const char* font, float firstLineIndent, float leftIndent)
@@ -44,7 +55,7 @@ void expectLevel(const NumberedList& list, std::size_t level, int type, const st
     SCOPED_TRACE("list " + std::to_string(static_cast<int>(list.getName())) + " level " +
                  std::to_string(level));
     ASSERT_EQ(list.getNumberingLevels().size(), LevelCount);
-    const NumberingLevel& actual = *list.getNumberingLevels()[level - 1];
+    const NumberingLevel& actual = list.getNumberingLevels()[level - 1];
     EXPECT_EQ(*actual.getListMarker(), with<NumListMarker>([&](NumListMarker& marker) {
         marker.setType(static_cast<NumberFormatType>(type));
         marker.setTextExpr(text);
@@ -105,13 +116,11 @@ TEST(PredefinedNumListsTest, ThereAreFifteenListsOfNineLevelsInTheirOrder)
 {
     const auto lists = createPredefinedNumLists(SharedObjectFactory());
     ASSERT_EQ(lists.size(), ListCount);
-    std::vector<int> names;
     for (const NumberedList& list : lists) {
-        names.push_back(static_cast<int>(list.getName()));
         EXPECT_EQ(list.getNumberingLevels().size(), LevelCount);
         EXPECT_TRUE(list.getUUID());
     }
-    EXPECT_EQ(names, (std::vector<int>{3, 4, 5, 7, 6, 8, 9, 10, 12, 16, 13, 15, 14, 17, 11}));
+    EXPECT_EQ(getNames(lists), NamesInOrder);
 }
 
 TEST(PredefinedNumListsTest, BulletsRepeatEveryThreeLevels)
@@ -160,13 +169,13 @@ TEST(PredefinedNumListsTest, TheOutlineJoinsTheCountersOfAllLevelsAbove)
 TEST(PredefinedNumListsTest, LevelsThreeAndSixOfAListDifferInTheirIndentsAlone)
 {
     const auto lists = createPredefinedNumLists(SharedObjectFactory());
-    const auto& levels = getList(lists, 3).getNumberingLevels();
-    EXPECT_EQ(*levels[2]->getListMarker(), *levels[5]->getListMarker());
-    EXPECT_NE(*levels[2], *levels[5]);
-    EXPECT_SAME(levels[2]->getStyle().getParaProps()->getFirstLineIndent(), 90.0F);
-    EXPECT_SAME(levels[2]->getStyle().getParaProps()->getLeftIndent(), 108.0F);
-    EXPECT_SAME(levels[5]->getStyle().getParaProps()->getFirstLineIndent(), 198.0F);
-    EXPECT_SAME(levels[5]->getStyle().getParaProps()->getLeftIndent(), 216.0F);
+    const auto levels = getList(lists, 3).getNumberingLevels();
+    EXPECT_EQ(*levels[2].getListMarker(), *levels[5].getListMarker());
+    EXPECT_NE(levels[2], levels[5]);
+    EXPECT_SAME(levels[2].getStyle().getParaProps()->getFirstLineIndent(), 90.0F);
+    EXPECT_SAME(levels[2].getStyle().getParaProps()->getLeftIndent(), 108.0F);
+    EXPECT_SAME(levels[5].getStyle().getParaProps()->getFirstLineIndent(), 198.0F);
+    EXPECT_SAME(levels[5].getStyle().getParaProps()->getLeftIndent(), 216.0F);
 }
 
 TEST(PredefinedNumListsTest, TheLevelsShareFortyTwoStylesFromTheGivenPools)
@@ -175,10 +184,10 @@ TEST(PredefinedNumListsTest, TheLevelsShareFortyTwoStylesFromTheGivenPools)
     const auto lists = createPredefinedNumLists(factory);
     std::set<SharedStylePtr<NumberingLevelStyle>> styles;
     for (const NumberedList& list : lists) {
-        for (const auto& level : list.getNumberingLevels()) {
-            ASSERT_NE(level->getSharedStyle(), nullptr);
-            styles.insert(level->getSharedStyle());
-            EXPECT_EQ(factory.create(level->getStyle()), level->getSharedStyle());
+        for (const NumberingLevel& level : list.getNumberingLevels()) {
+            ASSERT_NE(level.getSharedStyle(), nullptr);
+            styles.insert(level.getSharedStyle());
+            EXPECT_EQ(factory.create(level.getStyle()), level.getSharedStyle());
         }
     }
     EXPECT_EQ(styles.size(), 42U);
@@ -190,12 +199,12 @@ TEST(PredefinedNumListsTest, EachCallMakesListsOfAnIdentityOfTheirOwn)
     EXPECT_NE(createPredefinedNumLists(factory)[0].getUUID(), createPredefinedNumLists(factory)[0].getUUID());
 }
 
-TEST(PredefinedNumListsTest, AppendingToAnEmptyVectorAddsAll)
+TEST(PredefinedNumListsTest, AppendingToAnEmptyVectorAddsAllInTheirOrder)
 {
     const SharedObjectFactory factory;
     std::vector<NumberedList> lists;
     appendPredefinedNumLists(factory, lists);
-    EXPECT_EQ(lists.size(), ListCount);
+    EXPECT_EQ(getNames(lists), NamesInOrder);
 }
 
 TEST(PredefinedNumListsTest, AppendingAgainAddsNothing)
@@ -217,11 +226,8 @@ TEST(PredefinedNumListsTest, AListWithTheSameLevelsUnderAnotherNameIsEnough)
     lists[0].setName(toName(200));
     const UUID uuid = lists[0].getUUID();
     appendPredefinedNumLists(factory, lists);
-    EXPECT_EQ(lists.size(), ListCount);
     EXPECT_EQ(lists[0].getUUID(), uuid);
-    for (std::size_t index = 1; index < lists.size(); ++index) {
-        EXPECT_NE(lists[index].getName(), toName(10));
-    }
+    EXPECT_EQ(getNames(lists), (std::vector<int>{200, 3, 4, 5, 7, 6, 8, 9, 12, 16, 13, 15, 14, 17, 11}));
 }
 
 TEST(PredefinedNumListsTest, AListWithFewerLevelsOrANullOneIsNotEnough)
@@ -231,7 +237,9 @@ TEST(PredefinedNumListsTest, AListWithFewerLevelsOrANullOneIsNotEnough)
     lists[0].getNumberingLevels().pop_back();
     lists[1].getNumberingLevels()[4].reset();
     appendPredefinedNumLists(factory, lists);
-    EXPECT_EQ(lists.size(), ListCount + 2);
+    std::vector<int> names{10, 10};
+    names.insert(names.end(), NamesInOrder.begin(), NamesInOrder.end());
+    EXPECT_EQ(getNames(lists), names);
 }
 
 TEST(PredefinedNumListsTest, EveryListPersists)

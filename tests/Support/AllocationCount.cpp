@@ -10,10 +10,15 @@ namespace {
 
 std::atomic<std::size_t> allocations = 0;
 std::atomic<std::size_t> liveBytes = 0;
+// How many more calls it takes to the one that fails; zero for none.
+std::atomic<std::size_t> callsToFailure = 0;
 
 void* allocate(std::size_t size) noexcept
 {
     ++allocations;
+    if (callsToFailure != 0 && --callsToFailure == 0) {
+        return nullptr;
+    }
     void* const memory = std::malloc(size == 0 ? 1 : size);
     liveBytes += malloc_usable_size(memory);
     return memory;
@@ -98,6 +103,21 @@ std::size_t getAllocationCount()
 std::size_t getLiveBytes()
 {
     return liveBytes;
+}
+
+AllocationFailure::AllocationFailure(std::size_t count)
+{
+    callsToFailure = count + 1;
+}
+
+AllocationFailure::~AllocationFailure()
+{
+    callsToFailure = 0;
+}
+
+bool AllocationFailure::hasHappened() const
+{
+    return callsToFailure == 0;
 }
 
 } // namespace QN::Test

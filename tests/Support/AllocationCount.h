@@ -10,6 +10,18 @@ std::size_t getAllocationCount();
 /// What `operator new` has given out and not got back, with what the allocator rounds it up to.
 std::size_t getLiveBytes();
 
+/// While it lives, `operator new` fails once: at the call that comes after `count` others. For one at a time, and for tests
+/// that allocate on one thread.
+class AllocationFailure {
+public:
+    explicit AllocationFailure(std::size_t count);
+    AllocationFailure(const AllocationFailure&) = delete;
+    AllocationFailure& operator=(const AllocationFailure&) = delete;
+    ~AllocationFailure();
+
+    bool hasHappened() const;
+};
+
 /// How often a function calls `operator new`.
 template <class Function>
 std::size_t countAllocations(const Function& function)

@@ -9,6 +9,20 @@ namespace {
 
 using namespace Test;
 
+template <class T>
+concept HasSmooth = requires(T& series)
+{
+    series.getSmooth();
+}
+|| requires(T& series)
+{
+    series.isSmooth();
+}
+|| requires(T& series)
+{
+    series.setSmooth(true);
+};
+
 TEST(AreaSeries, HasTheDefaultsOfASeries)
 {
     expectDefaultSeries<AreaSeries>("AreaSeries", R"("_smooth":{"value":-1})");
@@ -16,6 +30,7 @@ TEST(AreaSeries, HasTheDefaultsOfASeries)
 
 TEST(AreaSeries, WritesBackTheSmoothingThatNoAccessorReaches)
 {
+    static_assert(!HasSmooth<AreaSeries>);
     const auto makeText = [](int smooth) {
         return std::string(R"({"value0":)") + DefaultSeriesJson + R"(,"_smooth":{"value":)" +
                std::to_string(smooth) + "}}";

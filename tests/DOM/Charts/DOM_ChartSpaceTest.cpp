@@ -4,8 +4,7 @@
 
 #include "DOM/Charts/AxisSamples.h"
 #include "DOM/Charts/KindSamples.h"
-#include "DOM/DOM_DrawingRun.h"
-#include "DOM/DOM_Paragraph.h"
+#include "DOM/Charts/NestedSamples.h"
 #include "DOM/Shapes/DOM_Picture.h"
 #include "Support/SmallStack.h"
 
@@ -105,39 +104,6 @@ TEST(ChartSpace, AChangedCopyLeavesItsSourceAsItWasAndKeepsItsIdentity)
     copy.getPlotArea().getAxes().clear();
     copy.setRunProps(nullptr);
     EXPECT_EQ(toJson(source), json);
-}
-
-/// A text that shows the object inline.
-TextWithTombstones showInline(std::unique_ptr<GraphicalObject> object)
-{
-    auto run = std::make_unique<DrawingRun>();
-    run->getFrame().setGraphicalObject(std::move(object));
-    auto paragraph = std::make_unique<Paragraph>();
-    paragraph->getRuns().push_back(std::move(run));
-    std::vector<std::unique_ptr<Block>> blocks;
-    blocks.push_back(std::move(paragraph));
-    return TextWithTombstones(std::move(blocks));
-}
-
-std::unique_ptr<ChartSpace> putIntoTitle(std::unique_ptr<GraphicalObject> inner)
-{
-    auto space = std::make_unique<ChartSpace>();
-    space->setTitle(std::make_unique<ChartTitle>());
-    space->getTitle()->getText() = ChartTitle::Text(showInline(std::move(inner)));
-    return space;
-}
-
-std::unique_ptr<ChartSpace> putIntoLabel(std::unique_ptr<GraphicalObject> inner)
-{
-    auto label = std::make_unique<DataLabel>();
-    label->setText(std::make_unique<TextWithTombstones>(showInline(std::move(inner))));
-    auto series = std::make_unique<PieSeries>();
-    series->getDataLabels().push_back(std::move(label));
-    auto chart = std::make_unique<PieChart>();
-    chart->getLiveSeries().push_back(std::move(series));
-    auto space = std::make_unique<ChartSpace>();
-    space->getPlotArea().getCharts().push_back(std::move(chart));
-    return space;
 }
 
 TEST(ChartSpace, NestedInItsOwnTextsToTheLimitOfAFileIsDestroyedOnASmallStack)

@@ -9,6 +9,26 @@ namespace {
 
 using namespace Test;
 
+/// Classes with a getter or a setter of this name.
+#define DEFINE_HAS(Member)                                                                                   \
+    template <class T>                                                                                       \
+    concept Has##Member = requires(T & chart)                                                                \
+    {                                                                                                        \
+        chart.get##Member();                                                                                 \
+    }                                                                                                        \
+    || requires(T & chart)                                                                                   \
+    {                                                                                                        \
+        chart.set##Member({});                                                                               \
+    };
+
+DEFINE_HAS(Overlap)
+DEFINE_HAS(SeriesLines)
+DEFINE_HAS(GapDepth)
+DEFINE_HAS(ChartShape)
+DEFINE_HAS(FirstSliceAngle)
+DEFINE_HAS(Interpolation)
+#undef DEFINE_HAS
+
 TEST(Chart, HasTenKindsInTheOrderOfTheFamily)
 {
     static_assert(std::is_same_v<Chart::Types,
@@ -32,6 +52,21 @@ TEST(Chart, TheFlatAndThe3DChartOfAKindAreSiblings)
     EXPECT_FALSE(areDeeplyEqual(static_cast<const Chart&>(PieChart()), Pie3DChart()));
     EXPECT_FALSE(areDeeplyEqual(static_cast<const Chart&>(ScatterChart()), Scatter3DChart()));
     EXPECT_TRUE(areDeeplyEqual(static_cast<const Chart&>(ScatterChart()), ScatterChart()));
+}
+
+TEST(Chart, TheFlatAndThe3DChartOfAKindAddMembersThatTheOtherLacks)
+{
+    static_assert(HasOverlap<BarChart> && !HasOverlap<Bar3DChart>);
+    static_assert(HasSeriesLines<BarChart> && !HasSeriesLines<Bar3DChart>);
+    static_assert(!HasChartShape<BarChart> && HasChartShape<Bar3DChart>);
+    static_assert(!HasGapDepth<AreaChart> && HasGapDepth<Area3DChart>);
+    static_assert(!HasGapDepth<BarChart> && HasGapDepth<Bar3DChart>);
+    static_assert(!HasGapDepth<LineChart> && HasGapDepth<Line3DChart>);
+    static_assert(!HasGapDepth<PieChart> && !HasGapDepth<Pie3DChart>);
+    static_assert(!HasGapDepth<ScatterChart> && !HasGapDepth<Scatter3DChart>);
+    static_assert(HasFirstSliceAngle<PieChart> && !HasFirstSliceAngle<Pie3DChart>);
+    static_assert(HasInterpolation<LineChart> && !HasInterpolation<Line3DChart>);
+    static_assert(HasInterpolation<ScatterChart> && HasInterpolation<Scatter3DChart>);
 }
 
 TEST(Chart, KeepsEveryMember)

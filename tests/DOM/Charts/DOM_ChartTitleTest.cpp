@@ -3,8 +3,13 @@
 #include <boost/optional/optional_io.hpp>
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <new>
+#include <utility>
+
 #include "DOM/Charts/ChartSamples.h"
-#include "DOM/DOM_Paragraph.h"
+#include "DOM/Charts/NestedSamples.h"
+#include "DOM/Charts/UncopyablePaint.h"
 #include "DOM/FormulaSyntaxTree/DOM_Number.h"
 
 namespace QN::DOM::ChartTitleTest {
@@ -112,6 +117,42 @@ TEST(ChartTitle, IsUnequalAsSoonAsOneMemberDiffers)
         [](ChartTitle& title) { title.setGraphicProps(ChartGraphicProps()); },
         [](ChartTitle& title) { title.setRunProps(makeRunProps(true)); });
     expectSharesRunProps(ChartTitle());
+}
+
+/// A title without text of which all else is set.
+ChartTitle makeTitle()
+{
+    ChartTitle title;
+    title.setX(1.5F);
+    title.setY(-2.5F);
+    title.setOverlay(true);
+    title.setRotation(90.0);
+    title.setDirection(ChartTextDirection::Vertical270);
+    title.setGraphicProps(makePaint());
+    title.setRunProps(makeRunProps(true));
+    return title;
+}
+
+TEST(ChartTitle, IsAssignedFromATitleInItsOwnTextBeforeThatTextGoes)
+{
+    auto inner = std::make_unique<ChartTitle>(makeTitle());
+    const ChartTitle& source = *inner;
+    auto space = std::make_unique<ChartSpace>();
+    space->setTitle(std::move(inner));
+    space = putIntoTitle(std::move(space));
+    *space->getTitle() = source;
+    EXPECT_EQ(*space->getTitle(), makeTitle());
+}
+
+TEST(ChartTitle, IsUnchangedWhenAnAssignmentFails)
+{
+    ChartTitle source;
+    source.getText() = ChartTitle::Text(TextWithTombstones());
+    source.setX(9.0F);
+    source.setGraphicProps(makeUncopyablePaint());
+    ChartTitle title = makeTitle();
+    EXPECT_THROW(title = source, std::bad_alloc);
+    EXPECT_EQ(title, makeTitle());
 }
 
 } // namespace

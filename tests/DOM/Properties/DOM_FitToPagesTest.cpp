@@ -28,6 +28,11 @@ TEST(FitToPagesTest, ASetCountIsReadBackAndPersists)
     EXPECT_SAME(fit.getValueByTall(), 0UL);
     EXPECT_NE(fit, FitToPages());
     EXPECT_NE(fit, with<FitToPages>([](FitToPages& f) { f.setValueByWide(1UL); }));
+    EXPECT_NE(fit, with<FitToPages>([](FitToPages& f) { f.setValueByTall(0UL); }));
+    EXPECT_NE(fit, with<FitToPages>([](FitToPages& f) {
+                  f.setValueByWide(2UL);
+                  f.setValueByTall(0UL);
+              }));
     expectPersists(fit);
     expectCopiesAndMoves(fit);
 }

@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstddef>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "DOM/Properties/StyleSamples.h"
 #include "DOM/Shapes/DOM_Insets.h"
@@ -37,6 +40,53 @@ PageProps makeFullPageProps()
 PageProps withFit(PageProps::FitSettings settings)
 {
     return with<PageProps>([&](PageProps& props) { props.setFitSettings(std::move(settings)); });
+}
+
+PageProps withMargins(std::shared_ptr<const Insets> margins)
+{
+    return with<PageProps>([&](PageProps& props) { props.setMargins(std::move(margins)); });
+}
+
+std::shared_ptr<const Insets> makeInsets(float left, float top)
+{
+    return sharedWith<Insets>([&](Insets& insets) {
+        insets.setLeft(left);
+        insets.setTop(top);
+    });
+}
+
+/// What is said of one optional member, by number; `Absent` for nothing.
+using Said = boost::optional<int>;
+const Said Absent;
+
+using SetOptional = void (*)(PageProps&, int);
+
+/// Each member that is an optional.
+constexpr std::array<SetOptional, 5> SetOptionals{
+    [](PageProps& props, int number) { props.setWidth(static_cast<float>(number)); },
+    [](PageProps& props, int number) { props.setHeight(static_cast<float>(number)); },
+    [](PageProps& props, int number) { props.setHeaderHeight(static_cast<float>(number)); },
+    [](PageProps& props, int number) { props.setFooterHeight(static_cast<float>(number)); },
+    [](PageProps& props, int number) { props.setPageNumberFormat(static_cast<NumberFormatType>(number)); },
+};
+
+PageProps withOptional(SetOptional set, Said said)
+{
+    return with<PageProps>([&](PageProps& props) {
+        if (said) {
+            set(props, *said);
+        }
+    });
+}
+
+/// Calls `check(make)` for each optional member; `make` gives a set that says at most this member.
+template <class Check>
+void forEachOptional(Check check)
+{
+    for (std::size_t index = 0; index < SetOptionals.size(); ++index) {
+        SCOPED_TRACE(index);
+        check([&](Said said) { return withOptional(SetOptionals[index], said); });
+    }
 }
 
 } // namespace
@@ -146,6 +196,124 @@ TEST(PagePropsTest, RebaseTakesFitSettingsOnlyWhereTheReferencesAreTheSame)
     rebaseProperty(target, PageProps(), PageProps(), PageProps());
     EXPECT_EQ(target.getFitSettings().which(), 0);
     EXPECT_EQ(*target.getMargins(), Insets());
+}
+
+TEST(PagePropsTest, EachMemberTakesPartInEquality)
+{
+    const auto expectMatters = [](auto change) {
+        PageProps changed = makeFullPageProps();
+        change(changed);
+        EXPECT_NE(changed, makeFullPageProps());
+    };
+    expectMatters([](PageProps& props) { props.setMargins(makeInsets(11.0F)); });
+    expectMatters([](PageProps& props) { props.setMargins(nullptr); });
+    expectMatters([](PageProps& props) { props.setWidth(boost::none); });
+    expectMatters([](PageProps& props) { props.setHeight(boost::none); });
+    expectMatters([](PageProps& props) { props.setHeaderHeight(boost::none); });
+    expectMatters([](PageProps& props) { props.setFooterHeight(boost::none); });
+    expectMatters([](PageProps& props) { props.setFitSettings(0.75F); });
+    expectMatters([](PageProps& props) { props.setPageNumberFormat(NumberFormatType::Decimal); });
+    EXPECT_EQ(withMargins(makeInsets(1.0F)), withMargins(makeInsets(1.0F)));
+}
+
+TEST(PagePropsTest, OverrideTakesEachOptionalThatIsSaid)
+{
+    forEachOptional([](auto make) {
+        const auto overridden = [&](Said target, Said other) {
+            PageProps props = make(target);
+            override(props, make(other));
+            return props;
+        };
+        EXPECT_EQ(overridden(1, 2), make(2));
+        EXPECT_EQ(overridden(1, Absent), make(1));
+        EXPECT_EQ(overridden(Absent, 2), make(2));
+    });
+}
+
+TEST(PagePropsTest, ExcludeDropsEachOptionalThatIsSaidAlike)
+{
+    forEachOptional([](auto make) {
+        const auto excluded = [&](Said target, Said other) {
+            PageProps props = make(target);
+            exclude(props, make(other));
+            return props;
+        };
+        EXPECT_EQ(excluded(1, 1), make(Absent));
+        EXPECT_EQ(excluded(1, 2), make(1));
+        EXPECT_EQ(excluded(1, Absent), make(1));
+    });
+}
+
+TEST(PagePropsTest, IntersectKeepsEachOptionalThatIsSaidAlike)
+{
+    forEachOptional([](auto make) {
+        const auto intersected = [&](Said target, Said other) {
+            PageProps props = make(target);
+            intersect(props, make(other));
+            return props;
+        };
+        EXPECT_EQ(intersected(1, 1), make(1));
+        EXPECT_EQ(intersected(1, 2), make(Absent));
+        EXPECT_EQ(intersected(1, Absent), make(Absent));
+        EXPECT_EQ(intersected(Absent, 1), make(Absent));
+    });
+}
+
+TEST(PagePropsTest, RebaseTakesEachOptionalWhoseReferencesAgree)
+{
+    forEachOptional([](auto make) {
+        const auto expectRebased = [&](Said target, Said replacement, Said left, Said right, Said result) {
+            PageProps props = make(target);
+            rebaseProperty(props, make(replacement), make(left), make(right));
+            PageProps expected = make(result);
+            expected.setMargins(std::make_shared<const Insets>()); // rebased margins are never null
+            EXPECT_EQ(props, expected) << toJson(props);
+        };
+        expectRebased(1, 2, 3, 3, 2);
+        expectRebased(1, 2, 3, 4, 1);
+        expectRebased(1, Absent, 3, 3, Absent);
+        expectRebased(Absent, 2, Absent, Absent, 2);
+        // An absent reference agrees with the default, but only to replace what is there.
+        expectRebased(1, 2, Absent, 0, 2);
+        expectRebased(1, 2, 0, Absent, 2);
+        expectRebased(1, 2, Absent, 3, 1);
+        expectRebased(1, Absent, Absent, 0, 1);
+        expectRebased(Absent, 2, Absent, 0, Absent);
+    });
+}
+
+TEST(PagePropsTest, MarginsAreExcludedIntersectedAndRebasedSideBySide)
+{
+    PageProps target = withMargins(makeInsets(1.0F, 2.0F));
+    exclude(target, withMargins(makeInsets(1.0F)));
+    EXPECT_EQ(target, withMargins(sharedWith<Insets>([](Insets& insets) { insets.setTop(2.0F); })));
+
+    target = withMargins(makeInsets(1.0F, 2.0F));
+    intersect(target, withMargins(makeInsets(1.0F, 3.0F)));
+    EXPECT_EQ(target, withMargins(makeInsets(1.0F)));
+
+    target = withMargins(makeInsets(1.0F, 2.0F));
+    rebaseProperty(target, withMargins(makeInsets(5.0F, 6.0F)), withMargins(makeInsets(7.0F, 8.0F)),
+                   withMargins(makeInsets(7.0F, 9.0F)));
+    EXPECT_EQ(target, withMargins(makeInsets(5.0F, 2.0F)));
+}
+
+TEST(PagePropsTest, IntersectDropsMarginsThatOneSideDoesNotState)
+{
+    PageProps target = withMargins(makeInsets(1.0F));
+    intersect(target, PageProps());
+    EXPECT_EQ(target, PageProps());
+    intersect(target, withMargins(makeInsets(1.0F)));
+    EXPECT_EQ(target, PageProps());
+}
+
+TEST(PagePropsTest, RebaseTakesMarginsWholeWhereTheReferencesAreTheSame)
+{
+    PageProps target = withMargins(makeInsets(1.0F, 2.0F));
+    rebaseProperty(target, withMargins(makeInsets(5.0F)), PageProps(), PageProps());
+    EXPECT_EQ(target, withMargins(makeInsets(5.0F)));
+    rebaseProperty(target, PageProps(), withMargins(makeInsets(7.0F)), withMargins(makeInsets(7.0F)));
+    EXPECT_EQ(target, withMargins(std::make_shared<const Insets>()));
 }
 
 } // namespace QN::DOM::PagePropsTest
