@@ -9,12 +9,16 @@
 #include "DOM/Properties/DOM_RegularLineProps.h"
 #include "DOM/Shapes/DOM_Effect.h"
 #include "Utils/Public/ClassScheme/Declare.h"
+#include "Utils/Public/ReadonlyVector.h"
 
 namespace QN::DOM {
 
 /// The lists of fills, lines and effects of a theme, to which a `ThemeFill` or a `ThemeLineProps` refers by position.
 /// The placeholder in their colours stands for the colour that the reference gives. Copies are deep, and equality
 /// compares the lists element by element through the pointers.
+///
+/// A null element of any list can come from a file. It is copied, compared and saved as it stands; reading it through the
+/// const form of a getter fails the contract "plainPtr".
 class DOM_API FormatScheme {
 public:
     FormatScheme() = default;
@@ -23,16 +27,16 @@ public:
     const std::string& getName() const { return _name; }
     void setName(std::string name) { _name = std::move(name); }
 
-    const std::vector<std::unique_ptr<Fill>>& getFills() const { return _fills; }
+    ReadonlyPtrVector<Fill> getFills() const { return _fills; }
     std::vector<std::unique_ptr<Fill>>& getFills() { return _fills; }
 
-    const std::vector<std::unique_ptr<RegularLineProps>>& getLinePropsContainer() const { return _lineProps; }
+    ReadonlyPtrVector<RegularLineProps> getLinePropsContainer() const { return _lineProps; }
     std::vector<std::unique_ptr<RegularLineProps>>& getLinePropsContainer() { return _lineProps; }
 
-    const std::vector<std::unique_ptr<Effect>>& getEffects() const { return _effects; }
+    ReadonlyPtrVector<Effect> getEffects() const { return _effects; }
     std::vector<std::unique_ptr<Effect>>& getEffects() { return _effects; }
 
-    const std::vector<std::unique_ptr<Fill>>& getBackgroundFills() const { return _backgroundFills; }
+    ReadonlyPtrVector<Fill> getBackgroundFills() const { return _backgroundFills; }
     std::vector<std::unique_ptr<Fill>>& getBackgroundFills() { return _backgroundFills; }
 
     /// Lines stand in a file as plain pointers, without the name of their class.

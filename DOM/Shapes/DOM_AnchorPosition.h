@@ -2,6 +2,7 @@
 
 #include <boost/variant/variant.hpp>
 
+#include <cstdint>
 #include <utility>
 
 #include "Utils/Public/ClassScheme/Declare.h"
@@ -10,7 +11,7 @@ namespace QN::DOM {
 
 // Of the enumerations below, any other number passes through unchanged.
 
-enum class AnchorHorizontalAlignment : unsigned char {
+enum class AnchorHorizontalAlignment : std::int32_t {
     Left = 0,
     Right = 1,
     Center = 2,
@@ -18,7 +19,7 @@ enum class AnchorHorizontalAlignment : unsigned char {
     Outside = 4
 };
 
-enum class AnchorVerticalAlignment : unsigned char {
+enum class AnchorVerticalAlignment : std::int32_t {
     Top = 0,
     Bottom = 1,
     Center = 2,
@@ -26,7 +27,7 @@ enum class AnchorVerticalAlignment : unsigned char {
     Outside = 4
 };
 
-enum class AnchorHorizontalRelativeTo : unsigned char {
+enum class AnchorHorizontalRelativeTo : std::int32_t {
     Margin = 0,
     Page = 1,
     Column = 2,
@@ -37,7 +38,7 @@ enum class AnchorHorizontalRelativeTo : unsigned char {
     OutsideMargin = 7,
 };
 
-enum class AnchorVerticalRelativeTo : unsigned char {
+enum class AnchorVerticalRelativeTo : std::int32_t {
     Margin = 0,
     Page = 1,
     Paragraph = 2,

@@ -21,6 +21,9 @@ enum class PathFillMode : unsigned char {
 
 /// One path of an outline: commands in drawing order, in a coordinate box of its own that is mapped onto the shape's
 /// extent. Nothing is checked: a box may be empty or negative.
+///
+/// A null command can come from a file. It is copied, compared and saved as it stands; reading it through `getCommands()
+/// const` fails the contract "plainPtr".
 class DOM_API Path {
 public:
     Path() = default;

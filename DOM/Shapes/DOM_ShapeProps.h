@@ -4,6 +4,7 @@
 #include <boost/optional/optional.hpp>
 #include <boost/variant/variant.hpp>
 
+#include <cstdint>
 #include <memory>
 #include <utility>
 
@@ -20,9 +21,9 @@ namespace QN::DOM {
 
 /// Where the text of a shape stands in the area that the shape has for it. Any other number passes through unchanged, here
 /// and below.
-enum class ShapeAreaHorizontalAlignment : unsigned char { Left = 0, Center = 1, Right = 2, Justify = 3 };
+enum class ShapeAreaHorizontalAlignment : std::int32_t { Left = 0, Center = 1, Right = 2, Justify = 3 };
 
-enum class ShapeAreaVerticalAlignment : unsigned char { Top = 0, Middle = 1, Bottom = 2, Justify = 3 };
+enum class ShapeAreaVerticalAlignment : std::int32_t { Top = 0, Middle = 1, Bottom = 2, Justify = 3 };
 
 /// Placement and paint of a shape, as a shape style carries them. Copies are deep but for the padding, which is
 /// immutable and shared.

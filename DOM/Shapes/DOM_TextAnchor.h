@@ -2,6 +2,7 @@
 
 #include <boost/optional/optional.hpp>
 
+#include <cstdint>
 #include <utility>
 
 #include "DOM/Properties/DOM_DeclareAlgebra.h"
@@ -15,7 +16,7 @@ namespace QN::DOM {
 
 /// How text runs around an object, or that the object stands in the line as a character does. Any other number passes
 /// through unchanged.
-enum class AnchorWrapType : unsigned char {
+enum class AnchorWrapType : std::int32_t {
     Inline = 0,
     Square = 1,
     Tight = 2,
@@ -29,7 +30,7 @@ enum class AnchorWrapType : unsigned char {
 class DOM_API TextAnchor {
 public:
     /// On which sides of the object text runs. Any other number passes through unchanged.
-    enum class WrapAround : unsigned char { BothSides = 0, Left = 1, Right = 2, Largest = 3 };
+    enum class WrapAround : std::int32_t { BothSides = 0, Left = 1, Right = 2, Largest = 3 };
 
     TextAnchor() = default;
     explicit TextAnchor(AnchorWrapType type) : _type(type) {}

@@ -135,45 +135,45 @@ TEST(DefaultThemeTest, ItsMajorFontIsCalibriAndItsMinorFontCambria)
 TEST(DefaultThemeTest, ItsFillsAreOneSolidAndTwoGradients)
 {
     const Document document = makeDocument();
-    const auto& fills = document.getTheme()->getFormatScheme().getFills();
+    const auto fills = document.getTheme()->getFormatScheme().getFills();
     ASSERT_EQ(fills.size(), 3U);
-    expectSolid(*fills[0]);
-    expectGradient(*fills[1], {{0.0, {Tint(0.5), SaturationModulation(3.0)}},
-                               {0.35, {Tint(0.37), SaturationModulation(3.0)}},
-                               {1.0, {Tint(0.15), SaturationModulation(3.5)}}});
-    expectGradient(*fills[2], {{0.0, {Shade(0.51), SaturationModulation(1.3)}},
-                               {0.8, {Shade(0.93), SaturationModulation(1.3)}},
-                               {1.0, {Shade(0.94), SaturationModulation(1.35)}}});
+    expectSolid(fills[0]);
+    expectGradient(fills[1], {{0.0, {Tint(0.5), SaturationModulation(3.0)}},
+                              {0.35, {Tint(0.37), SaturationModulation(3.0)}},
+                              {1.0, {Tint(0.15), SaturationModulation(3.5)}}});
+    expectGradient(fills[2], {{0.0, {Shade(0.51), SaturationModulation(1.3)}},
+                              {0.8, {Shade(0.93), SaturationModulation(1.3)}},
+                              {1.0, {Shade(0.94), SaturationModulation(1.35)}}});
 }
 
 TEST(DefaultThemeTest, ItsLinesHaveAColorAndNothingElse)
 {
     const Document document = makeDocument();
-    const auto& lines = document.getTheme()->getFormatScheme().getLinePropsContainer();
+    const auto lines = document.getTheme()->getFormatScheme().getLinePropsContainer();
     ASSERT_EQ(lines.size(), 3U);
-    expectLine(*lines[0], {Shade(0.95), SaturationModulation(1.05)});
-    expectLine(*lines[1], {});
-    expectLine(*lines[2], {});
+    expectLine(lines[0], {Shade(0.95), SaturationModulation(1.05)});
+    expectLine(lines[1], {});
+    expectLine(lines[2], {});
 }
 
 TEST(DefaultThemeTest, ItsBackgroundFillsAreOneSolidAndTwoGradients)
 {
     const Document document = makeDocument();
-    const auto& fills = document.getTheme()->getFormatScheme().getBackgroundFills();
+    const auto fills = document.getTheme()->getFormatScheme().getBackgroundFills();
     ASSERT_EQ(fills.size(), 3U);
-    expectSolid(*fills[0]);
-    expectGradient(*fills[1], {{0.0, {Tint(0.4), SaturationModulation(3.5)}},
-                               {0.4, {Tint(0.45), Shade(0.99), SaturationModulation(3.5)}},
-                               {1.0, {Shade(0.2), SaturationModulation(2.55)}}});
-    expectGradient(*fills[2], {{0.0, {Tint(0.8), SaturationModulation(3.0)}},
-                               {1.0, {Shade(0.3), SaturationModulation(2.0)}}});
+    expectSolid(fills[0]);
+    expectGradient(fills[1], {{0.0, {Tint(0.4), SaturationModulation(3.5)}},
+                              {0.4, {Tint(0.45), Shade(0.99), SaturationModulation(3.5)}},
+                              {1.0, {Shade(0.2), SaturationModulation(2.55)}}});
+    expectGradient(fills[2], {{0.0, {Tint(0.8), SaturationModulation(3.0)}},
+                              {1.0, {Shade(0.3), SaturationModulation(2.0)}}});
 }
 
 TEST(DefaultThemeTest, TheSecondStopOfTheSecondBackgroundFillHasThreeTransforms)
 {
     const Document document = makeDocument();
-    const auto& fills = document.getTheme()->getFormatScheme().getBackgroundFills();
-    const auto& gradient = dynamic_cast<const GradientFill&>(*fills[1]);
+    const auto fills = document.getTheme()->getFormatScheme().getBackgroundFills();
+    const auto& gradient = dynamic_cast<const GradientFill&>(fills[1]);
     EXPECT_EQ(gradient.getGradientStops()[1].getColor().getTransforms().size(), 3U);
 }
 

@@ -2,10 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <string>
+#include <type_traits>
+
 #include "DOM/Properties/DOM_NoFill.h"
 #include "DOM/Properties/DOM_PatternFill.h"
 #include "DOM/Properties/DOM_SolidFill.h"
 #include "DOM/ValueChecks.h"
+#include "Support/AllocationCount.h"
 #include "Support/RoundTrip.h"
 
 namespace QN::DOM::FormatSchemeTest {
@@ -81,6 +86,36 @@ TEST(FormatSchemeTest, NullElementsPersist)
     EXPECT_NE(scheme, makeScheme());
 }
 
+TEST(FormatSchemeTest, AConstSchemeGivesItsListsForReadingOnly)
+{
+    const FormatScheme scheme = makeScheme();
+    static_assert(std::is_same_v<decltype(scheme.getFills()[0]), const Fill&>);
+    static_assert(std::is_same_v<decltype(scheme.getLinePropsContainer()[0]), const RegularLineProps&>);
+    static_assert(std::is_same_v<decltype(scheme.getEffects()[0]), const Effect&>);
+    static_assert(std::is_same_v<decltype(scheme.getBackgroundFills()[0]), const Fill&>);
+    EXPECT_EQ(scheme.getFills().size(), 2U);
+    EXPECT_TRUE(areDeeplyEqual(scheme.getFills()[1], NoFill()));
+    EXPECT_EQ(scheme.getLinePropsContainer()[1], *makeLine(2.0F));
+    EXPECT_EQ(scheme.getEffects()[0], Effect());
+    EXPECT_TRUE(areDeeplyEqual(scheme.getBackgroundFills()[0], PatternFill()));
+}
+
+TEST(FormatSchemeDeathTest, ReadingANullElementOfAConstSchemeFailsTheContract)
+{
+    FormatScheme scheme;
+    scheme.getFills().push_back(nullptr);
+    scheme.getLinePropsContainer().push_back(nullptr);
+    scheme.getEffects().push_back(nullptr);
+    scheme.getBackgroundFills().push_back(nullptr);
+    const FormatScheme& read = scheme;
+    EXPECT_EQ(read.getFills().getPointer(0), nullptr);
+    constexpr const char* PlainPtr = "Utils/Public/Ptr/PtrUtils:254: plainPtr";
+    EXPECT_DEATH(read.getFills()[0], PlainPtr);
+    EXPECT_DEATH(read.getLinePropsContainer()[0], PlainPtr);
+    EXPECT_DEATH(read.getEffects()[0], PlainPtr);
+    EXPECT_DEATH(read.getBackgroundFills()[0], PlainPtr);
+}
+
 TEST(FormatSchemeTest, LoadingReplacesTheLists)
 {
     FormatScheme scheme = makeScheme();
@@ -88,6 +123,20 @@ TEST(FormatSchemeTest, LoadingReplacesTheLists)
     EXPECT_EQ(scheme, makeScheme());
     loadJson(toJson(FormatScheme()), scheme);
     EXPECT_EQ(scheme, FormatScheme());
+}
+
+TEST(FormatSchemeTest, ALongListOfLinesThatAreNoneTakesLittleMemoryBeforeItIsRefused)
+{
+    constexpr std::size_t Count = 2'000'000;
+    std::string json = R"({"_name":"","_fills":[],"_lineProps":[)";
+    for (std::size_t index = 1; index < Count; ++index) {
+        json += "0,";
+    }
+    json += R"(0],"_effects":[],"_backgroundFills":[]})";
+    FormatScheme scheme;
+    const std::size_t bytesBefore = getLiveBytes();
+    EXPECT_THROW(loadJson(json, scheme), cereal::Exception);
+    EXPECT_LE(getLiveBytes() - bytesBefore, std::size_t{2} << 20U);
 }
 
 TEST(FormatSchemeTest, EqualityComparesListsElementByElementThroughThePointers)
@@ -112,10 +161,10 @@ TEST(FormatSchemeTest, ACopySharesNothing)
     const FormatScheme source = makeScheme();
     expectCopiesAndMoves(source);
     FormatScheme copy(source);
-    EXPECT_NE(copy.getFills()[0], source.getFills()[0]);
-    EXPECT_NE(copy.getLinePropsContainer()[0], source.getLinePropsContainer()[0]);
-    EXPECT_NE(copy.getEffects()[0], source.getEffects()[0]);
-    EXPECT_NE(copy.getBackgroundFills()[0], source.getBackgroundFills()[0]);
+    EXPECT_NE(copy.getFills()[0].get(), &source.getFills()[0]);
+    EXPECT_NE(copy.getLinePropsContainer()[0].get(), &source.getLinePropsContainer()[0]);
+    EXPECT_NE(copy.getEffects()[0].get(), &source.getEffects()[0]);
+    EXPECT_NE(copy.getBackgroundFills()[0].get(), &source.getBackgroundFills()[0]);
     copy.getLinePropsContainer()[0]->setWidth(9.0F);
     dynamic_cast<SolidFill&>(*copy.getFills()[0]).setColor(Color());
     copy.getFills().pop_back();

@@ -69,7 +69,7 @@ TEST(ThemeTest, ACopySharesNothing)
     const Theme source = makeTheme();
     expectCopiesAndMoves(source);
     Theme copy(source);
-    EXPECT_NE(copy.getFormatScheme().getFills()[0], source.getFormatScheme().getFills()[0]);
+    EXPECT_NE(&copy.getFormatScheme().getFills()[0], &source.getFormatScheme().getFills()[0]);
     copy.setName("other");
     copy.setColorScheme({});
     copy.setFontScheme({});

@@ -28,6 +28,7 @@ template <class T>
 void expectCopiesAndMoves(const T& value)
 {
     static_assert(std::is_nothrow_move_constructible_v<T>);
+    static_assert(std::is_nothrow_move_assignable_v<T>);
     static_assert(std::is_nothrow_destructible_v<T>);
 
     T copy(value);

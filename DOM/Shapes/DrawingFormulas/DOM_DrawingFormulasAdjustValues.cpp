@@ -8,6 +8,7 @@
 namespace QN::DOM::DrawingFormulas {
 
 QN_DEFINE_VALUE(AdjustValues)
+QN_DEFINE_DEEP_COPY(AdjustValues)
 
 unsigned long AdjustValues::add(std::string name, double value)
 {

@@ -10,9 +10,13 @@
 namespace QN::DOM::DrawingFormulas {
 
 /// The named numbers of a shape that its user can change. Formulas reach them by position or by name. There are as many
-/// names as values; a name need not be unique. A load takes both lists as they stand, and `add` is what checks them.
+/// names as values, also after a failed assignment; a name need not be unique. A load takes both lists as they stand, and
+/// `add` is what checks them.
 class DOM_API AdjustValues {
 public:
+    AdjustValues() = default;
+    QN_DEEP_COPY(AdjustValues)
+
     /// Appends.
     /// @return the position of the new value.
     unsigned long add(std::string name, double value);
@@ -21,7 +25,8 @@ public:
     boost::optional<double> get(unsigned long index) const;
     /// Null when out of range. Invalidated by `add`.
     const std::string* getName(unsigned long index) const;
-    /// The value that was added last under the name; absent when there is none. Linear.
+    /// The value of the last entry of the name; absent when there is none, or when that entry has no value, as a file can
+    /// have it: no earlier one is tried. Linear.
     boost::optional<double> find(const std::string& name) const;
     bool isEmpty() const { return _values.empty(); }
 

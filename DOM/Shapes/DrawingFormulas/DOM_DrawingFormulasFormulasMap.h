@@ -19,11 +19,12 @@ public:
     /// @return the position of the new formula.
     unsigned long add(std::string name, std::unique_ptr<Expression> formula);
 
-    /// Null when out of range.
+    /// Null when out of range, and where the formula itself is null.
     const Expression* get(unsigned long index) const;
     /// Null when out of range. Invalidated by `add`.
     const std::string* getName(unsigned long index) const;
-    /// The formula that was added last under the name; null when there is none. Linear.
+    /// The formula of the last entry of the name; null when there is none, when that formula is null, or when that entry
+    /// has no formula, as a file can have it: no earlier one is tried. Linear.
     const Expression* find(const std::string& name) const;
     unsigned long size() const { return _formulas.size(); }
 

@@ -19,10 +19,10 @@ class Fill;
 class Insets;
 
 /// Where the content of a cell stands between its upper and its lower edge. Other numbers pass through uninterpreted.
-enum class VerticalAlignment : std::uint8_t { Bottom = 0, Center = 1, Top = 2, Justify = 3, Distributed = 4 };
+enum class VerticalAlignment : std::int32_t { Bottom = 0, Center = 1, Top = 2, Justify = 3, Distributed = 4 };
 
 /// What becomes of text that is wider than its cell. Other numbers pass through uninterpreted.
-enum class TextLayout : std::uint8_t { SingleLine = 0, Wrap = 1, ShrinkToFit = 2 };
+enum class TextLayout : std::int32_t { SingleLine = 0, Wrap = 1, ShrinkToFit = 2 };
 
 struct StackedCharsTag;
 

@@ -8,7 +8,7 @@
 namespace QN::DOM {
 
 /// How the height of a row is to be understood. Other numbers pass through uninterpreted.
-enum class RowHeightRule : std::uint8_t { Auto = 0, Exact = 1, AtLeast = 2 };
+enum class RowHeightRule : std::int32_t { Auto = 0, Exact = 1, AtLeast = 2 };
 
 /// The height of a row and how it binds.
 template <MemberTrait Trait>

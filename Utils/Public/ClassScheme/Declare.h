@@ -45,7 +45,8 @@ enum class NanOrder : bool { Unordered, Last };
     QN_VALUE(Class)                                                                                          \
     QN_ORDER(Class)
 
-/// Copies are deep and assignment gives the strong guarantee; moves do not throw.
+/// Copies are deep and assignment gives the strong guarantee; moves do not throw. An object may be assigned
+/// from a part of itself by a copy, but not by a move, which may destroy the part before it has read it all.
 #define QN_DEEP_COPY(Class)                                                                                  \
     Class(const Class& other);                                                                               \
     Class& operator=(const Class& other);                                                                    \

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -40,6 +41,23 @@ Command makeCommand(double first)
     return CommandChecksDetails::makeCommand<Command>(first, std::make_index_sequence<Count>{});
 }
 
+/// The text of a command by its operands' keys and numbers as they are written; an operand without a number is null.
+template <std::size_t Count>
+std::string makeCommandJson(const std::array<const char*, Count>& keys,
+                            const std::array<std::optional<std::string>, Count>& numbers)
+{
+    std::string json = R"({"value0":{})";
+    // The first operand that is not null brings the name of their class.
+    bool isNamed = false;
+    for (std::size_t index = 0; index < Count; ++index) {
+        json += std::string(",\"") + keys[index] + "\":";
+        const auto& number = numbers[index];
+        json += !number ? NullPolymorphicJson : isNamed ? laterValueJson(*number) : firstValueJson(*number);
+        isNamed = isNamed || number;
+    }
+    return json + "}";
+}
+
 /// The command has the operands of the given keys, in this order in its constructor and in its text, and a getter for
 /// each.
 template <class Command, std::size_t Count>
@@ -47,18 +65,15 @@ void expectCommand(const std::string& name, const std::array<const char*, Count>
                    const std::array<OperandGetter<Command>, Count>& getters)
 {
     const auto command = makeCommand<Command, Count>(0.5);
-    std::string nulls = R"({"value0":{})";
-    std::string values = R"({"value0":{})";
-    // The command's own class is the first of the text behind a pointer, and its operands' class the second.
+    std::array<std::optional<std::string>, Count> numbers;
+    const std::string nulls = makeCommandJson(keys, numbers);
     for (std::size_t index = 0; index < Count; ++index) {
-        const std::string key = std::string(",\"") + keys[index] + "\":";
-        const std::string number = std::to_string(index) + ".5";
-        nulls += key + NullPolymorphicJson;
-        values += key + (index == 0 ? firstValueJson(number) : laterValueJson(number));
+        numbers[index] = std::to_string(index) + ".5";
     }
+    const std::string json = makeCommandJson(keys, numbers);
     const std::string persistedName = "QN::DOM::DrawingCommands::" + name;
-    expectInFamily<PathCommand>(Command(), persistedName, nulls + "}");
-    expectText(command, values + "}");
+    expectInFamily<PathCommand>(Command(), persistedName, nulls);
+    expectText(command, json);
     expectCopiesAndMoves(command);
 
     const Command copy(command);
@@ -69,19 +84,17 @@ void expectCommand(const std::string& name, const std::array<const char*, Count>
         EXPECT_DEATH((Command().*getter)(), "Utils/Public/Ptr/PtrUtils:254: plainPtr") << keys[index];
     }
 
+    EXPECT_TRUE(fromText<Command>(json) == command);
     // Unequal as soon as one operand differs or is null.
     for (std::size_t index = 0; index < Count; ++index) {
-        const std::string key = std::string("\"") + keys[index] + "\":";
-        const std::string number = std::to_string(index) + ".5";
-        const std::string own = key + (index == 0 ? firstValueJson(number) : laterValueJson(number));
-        const std::string json = values + "}";
-        std::string changed = json;
-        const std::size_t place = changed.find(own);
-        ASSERT_NE(place, std::string::npos) << keys[index];
-        changed.replace(place, own.size(),
-                        key + (index == 0 ? firstValueJson("99.0") : laterValueJson("99.0")));
-        EXPECT_FALSE(fromText<Command>(changed) == command) << keys[index];
-        EXPECT_TRUE(fromText<Command>(json) == command);
+        for (const auto& number : {std::optional<std::string>("99.0"), std::optional<std::string>()}) {
+            auto changedNumbers = numbers;
+            changedNumbers[index] = number;
+            const auto changed = fromText<Command>(makeCommandJson(keys, changedNumbers));
+            EXPECT_FALSE(changed == command) << keys[index];
+            EXPECT_FALSE(command == changed) << keys[index];
+            EXPECT_TRUE(changed == Command(changed)) << keys[index];
+        }
     }
     EXPECT_FALSE(Command() == command);
     EXPECT_FALSE(command == Command());

@@ -37,10 +37,15 @@ TEST(AnchorPositionTest, HoldsAnOffsetOrANamedAlignment)
 
 TEST(AnchorPositionTest, AnyNumberPassesThrough)
 {
-    AnchorVerticalPosition position(static_cast<AnchorVerticalAlignment>(200));
-    position.setRelativeTo(static_cast<AnchorVerticalRelativeTo>(201));
-    expectRoundTrip(position);
-    EXPECT_EQ(toJson(position), R"({"_value":{"which":1,"data":200},"_relativeTo":201})");
+    AnchorVerticalPosition vertical(static_cast<AnchorVerticalAlignment>(300));
+    vertical.setRelativeTo(static_cast<AnchorVerticalRelativeTo>(-1));
+    expectRoundTrip(vertical);
+    EXPECT_EQ(toJson(vertical), R"({"_value":{"which":1,"data":300},"_relativeTo":-1})");
+
+    AnchorHorizontalPosition horizontal(static_cast<AnchorHorizontalAlignment>(-1));
+    horizontal.setRelativeTo(static_cast<AnchorHorizontalRelativeTo>(300));
+    expectRoundTrip(horizontal);
+    EXPECT_EQ(toJson(horizontal), R"({"_value":{"which":1,"data":-1},"_relativeTo":300})");
 }
 
 TEST(AnchorPositionTest, AThirdKindOfValueIsRefused)

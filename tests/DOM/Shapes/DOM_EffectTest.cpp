@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <type_traits>
 
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
@@ -13,6 +14,7 @@ using namespace Test;
 
 TEST(EffectTest, PersistsAsAnEmptyObject)
 {
+    static_assert(std::is_empty_v<Effect>);
     EXPECT_EQ(toJson(Effect()), "{}");
     EXPECT_EQ(toJson(std::make_unique<Effect>()), R"({"object":{"ptr_wrapper":{"valid":1,"data":{}}}})");
     expectPersists(Effect());

@@ -160,6 +160,11 @@ TEST(FrameTest, CopiesShowTheVerySameObjectAndCrop)
     EXPECT_EQ(copy.getGraphicalObject(), source.getGraphicalObject());
     EXPECT_EQ(copy.getGraphicalObject()->getID(), source.getGraphicalObject()->getID());
     EXPECT_EQ(copy.getCrop(), source.getCrop());
+    Frame assigned;
+    assigned = source;
+    EXPECT_EQ(assigned.getGraphicalObject(), source.getGraphicalObject());
+    EXPECT_EQ(assigned.getGraphicalObject()->getID(), source.getGraphicalObject()->getID());
+    EXPECT_EQ(assigned.getCrop(), source.getCrop());
     Frame changed(source);
     changed.setGraphicalObject(makePicture("other"));
     changed.setCrop(nullptr);
@@ -177,6 +182,15 @@ TEST(FrameTest, TheVerySameObjectIsEqualToItselfEvenWhereItsContentIsNot)
     EXPECT_FALSE(*makeSpace() == *makeSpace());
     EXPECT_EQ(makeCopy(frame), frame);
     EXPECT_NE(makeFrame([&](Frame& changed) { changed.setGraphicalObject(makeSpace()); }), frame);
+}
+
+TEST(FrameTest, TheVerySameCropIsEqualToItselfEvenWhereItHoldsANaN)
+{
+    constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
+    const Frame frame = makeFrame([&](Frame& changed) { changed.setCrop(makeCrop(NaN)); });
+    EXPECT_FALSE(*frame.getCrop() == *frame.getCrop());
+    EXPECT_EQ(makeCopy(frame), frame);
+    EXPECT_NE(makeFrame([&](Frame& changed) { changed.setCrop(makeCrop(NaN)); }), frame);
 }
 
 TEST(FrameTest, ObjectAndCropCompareByTheirContent)

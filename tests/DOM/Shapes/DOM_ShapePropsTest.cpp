@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <string>
 
 #include "DOM/Properties/DOM_NoFill.h"
 #include "DOM/Properties/DOM_RegularLineProps.h"
@@ -135,10 +136,22 @@ TEST(ShapePropsTest, AnAnchorKindPastTheLastIsRefused)
 
 TEST(ShapePropsTest, AnyAlignmentPassesThrough)
 {
-    expectRoundTrip(makeProps([](ShapeProps& props) {
-        props.setShapeAreaHorizontalAlignment(static_cast<ShapeAreaHorizontalAlignment>(200));
-        props.setShapeAreaVerticalAlignment(static_cast<ShapeAreaVerticalAlignment>(201));
-    }));
+    const auto expectPasses = [](int horizontal, int vertical) {
+        const ShapeProps props = makeProps([&](ShapeProps& changed) {
+            changed.setShapeAreaHorizontalAlignment(static_cast<ShapeAreaHorizontalAlignment>(horizontal));
+            changed.setShapeAreaVerticalAlignment(static_cast<ShapeAreaVerticalAlignment>(vertical));
+        });
+        expectRoundTrip(props);
+        const std::string json = toJson(props);
+        EXPECT_NE(json.find(R"("_shapeAreaHorizontalAlignment":{"hasValue":true,"value":)" +
+                            std::to_string(horizontal) +
+                            R"(},"_shapeAreaVerticalAlignment":{"hasValue":true,"value":)" +
+                            std::to_string(vertical) + "}"),
+                  std::string::npos)
+            << json;
+    };
+    expectPasses(300, -1);
+    expectPasses(-1, 300);
 }
 
 TEST(ShapePropsTest, AccessorsGiveWhatWasSet)

@@ -199,6 +199,17 @@ TEST(ShapeTest, AShapeMayStandInTheTextOfAShape)
     EXPECT_EQ(Shape(outer), outer);
 }
 
+TEST(ShapeTest, MayBeAssignedFromAShapeOfItsOwnText)
+{
+    const Shape inner = makeFullShape();
+    Shape shape;
+    shape.getBlocks().push_back(std::make_unique<Shape>(inner));
+    const Shape& read = shape;
+    shape = dynamic_cast<const Shape&>(read.getBlocks()[0]);
+    EXPECT_EQ(shape, inner);
+    EXPECT_EQ(shape.getID(), inner.getID());
+}
+
 TEST(ShapeTest, HasNoOrder)
 {
     static_assert(!Ordered<Shape>);

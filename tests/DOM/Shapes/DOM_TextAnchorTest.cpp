@@ -98,10 +98,22 @@ TEST(TextAnchorTest, PersistsItsMembersInOrder)
 
 TEST(TextAnchorTest, AnyNumberPassesThrough)
 {
-    expectRoundTrip(makeAnchor([](TextAnchor& anchor) {
-        anchor.setType(static_cast<AnchorWrapType>(200));
-        anchor.setWrapAround(static_cast<WrapAround>(201));
-    }));
+    const auto expectPasses = [](int type, int wrapAround) {
+        const TextAnchor anchor = makeAnchor([&](TextAnchor& changed) {
+            changed.setType(static_cast<AnchorWrapType>(type));
+            changed.setWrapAround(static_cast<WrapAround>(wrapAround));
+        });
+        expectRoundTrip(anchor);
+        const std::string json = toJson(anchor);
+        const auto holds = [&json](const std::string& key, int number) {
+            return json.find(key + R"(":{"hasValue":true,"value":)" + std::to_string(number) + "}") !=
+                   std::string::npos;
+        };
+        EXPECT_TRUE(holds("_type", type)) << json;
+        EXPECT_TRUE(holds("_wrapAround", wrapAround)) << json;
+    };
+    expectPasses(300, -1);
+    expectPasses(-1, 300);
 }
 
 TEST(TextAnchorTest, AccessorsGiveWhatWasSet)

@@ -4,8 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <new>
+#include <string>
 
 #include "DOM/ValueChecks.h"
+#include "Support/AllocationCount.h"
 #include "Support/ValueText.h"
 
 namespace QN::DOM::DrawingFormulas::DrawingFormulasAdjustValuesTest {
@@ -84,6 +87,41 @@ TEST(DrawingFormulasAdjustValues, AreEqualByValuesAndNamesInOrder)
     EXPECT_NE(make("a", 1.0), AdjustValues());
     constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
     EXPECT_NE(make("a", NaN), make("a", NaN));
+}
+
+TEST(DrawingFormulasAdjustValues, StayAsTheyAreWhenAnAssignmentFails)
+{
+    const std::string longName(100, 'a');
+    AdjustValues source;
+    source.add(longName + "1", 1.0);
+    source.add(longName + "2", 2.0);
+    AdjustValues former;
+    former.add(longName, 3.0);
+
+    std::size_t failures = 0;
+    for (bool failed = true; failed;) {
+        AdjustValues values = former;
+        {
+            const AllocationFailure failure(failures);
+            try {
+                values = source;
+            } catch (const std::bad_alloc&) {
+            }
+            failed = failure.hasHappened();
+        }
+        ASSERT_EQ(values, failed ? former : source) << failures;
+        EXPECT_EQ(values.add("b", 4.0), failed ? 1U : 2U) << failures;
+        failures += failed ? 1 : 0;
+    }
+    // The list of values, the list of names and each name.
+    EXPECT_GE(failures, 4U);
+}
+
+TEST(DrawingFormulasAdjustValues, FindNothingWhereTheLastEntryOfANameHasNoValue)
+{
+    const auto values = fromText<AdjustValues>(R"({"_values":[1.5],"_valueNames":["a","a"]})");
+    EXPECT_EQ(values.get(0), 1.5);
+    EXPECT_EQ(values.find("a"), boost::none);
 }
 
 TEST(DrawingFormulasAdjustValuesDeathTest, LoadListsOfUnequalLengthAndFailTheContractAtTheNextAdd)

@@ -55,6 +55,31 @@ TEST(DrawingFormulasFormulasMap, FindsTheFormulaThatWasAddedLastUnderAName)
     EXPECT_EQ(numberOf(map.get(0)), 1.0);
 }
 
+TEST(DrawingFormulasFormulasMap, ComparesWholeNames)
+{
+    FormulasMap map;
+    map.add("gd", value(1));
+    map.add("gd1", value(2));
+    map.add("", value(3));
+    EXPECT_EQ(numberOf(map.find("gd")), 1.0);
+    EXPECT_EQ(map.find("g"), nullptr);
+    EXPECT_EQ(map.find("GD"), nullptr);
+    EXPECT_EQ(numberOf(map.find("")), 3.0);
+}
+
+TEST(DrawingFormulasFormulasMap, FindsNothingWhereTheLastEntryOfANameHasNoFormula)
+{
+    FormulasMap map;
+    map.add("a", value(1));
+    map.add("a", nullptr);
+    EXPECT_EQ(map.find("a"), nullptr);
+
+    const auto loaded = fromText<FormulasMap>(R"({"_formulas":[)" + firstValueJson("1.5") +
+                                              R"(],"_formulaNames":["a","a"]})");
+    EXPECT_EQ(numberOf(loaded.get(0)), 1.5);
+    EXPECT_EQ(loaded.find("a"), nullptr);
+}
+
 TEST(DrawingFormulasFormulasMap, IsEqualByFormulasAndNamesInOrder)
 {
     const auto make = [](const std::string& name, std::unique_ptr<Expression> formula) {
@@ -90,6 +115,14 @@ TEST(DrawingFormulasFormulasMapDeathTest, LoadsListsOfUnequalLengthAndFailsTheCo
     EXPECT_EQ(map.find("a"), nullptr);
     EXPECT_DEATH(map.add("c", value(1)), "DOM/Shapes/DrawingFormulas/DOM_DrawingFormulasFormulasMap:29: "
                                          "_formulas\\.size\\(\\) == _formulaNames\\.size\\(\\)");
+
+    auto nameless =
+        fromText<FormulasMap>(R"({"_formulas":[)" + firstValueJson("1.5") + R"(],"_formulaNames":[]})");
+    EXPECT_EQ(nameless.size(), 1U);
+    EXPECT_EQ(numberOf(nameless.get(0)), 1.5);
+    EXPECT_EQ(nameless.getName(0), nullptr);
+    EXPECT_EQ(nameless.find(""), nullptr);
+    EXPECT_DEATH(nameless.add("c", value(1)), "DOM_DrawingFormulasFormulasMap:29: ");
 }
 
 } // namespace

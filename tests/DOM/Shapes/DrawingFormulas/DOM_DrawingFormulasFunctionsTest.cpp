@@ -94,6 +94,34 @@ TEST(DrawingFormulasFunctions, CopyTheirOperands)
     EXPECT_NE(copy.getOperand2(), source.getOperand2());
 }
 
+TEST(DrawingFormulasFunctions, MayBeAssignedFromTheirOwnOperands)
+{
+    const UnaryFunction innerUnary(UnaryFunctionType::Abs, value(1));
+    UnaryFunction unary(UnaryFunctionType::Sin, std::make_unique<UnaryFunction>(innerUnary));
+    unary = dynamic_cast<const UnaryFunction&>(*unary.getOperand());
+    EXPECT_EQ(unary, innerUnary);
+
+    const BinaryFunction innerBinary(BinaryFunctionType::Min, value(1), value(2));
+    BinaryFunction first(BinaryFunctionType::Plus, std::make_unique<BinaryFunction>(innerBinary), value(3));
+    first = dynamic_cast<const BinaryFunction&>(*first.getOperand1());
+    EXPECT_EQ(first, innerBinary);
+    BinaryFunction second(BinaryFunctionType::Plus, value(3), std::make_unique<BinaryFunction>(innerBinary));
+    second = dynamic_cast<const BinaryFunction&>(*second.getOperand2());
+    EXPECT_EQ(second, innerBinary);
+
+    const IfFunction innerChoice(value(1), value(2), value(3));
+    const auto nested = [&innerChoice] { return std::make_unique<IfFunction>(innerChoice); };
+    IfFunction choice(nested(), value(4), value(5));
+    choice = dynamic_cast<const IfFunction&>(*choice.getCondition());
+    EXPECT_EQ(choice, innerChoice);
+    choice = IfFunction(value(4), nested(), value(5));
+    choice = dynamic_cast<const IfFunction&>(*choice.getThenExpression());
+    EXPECT_EQ(choice, innerChoice);
+    choice = IfFunction(value(4), value(5), nested());
+    choice = dynamic_cast<const IfFunction&>(*choice.getElseExpression());
+    EXPECT_EQ(choice, innerChoice);
+}
+
 TEST(DrawingFormulasFunctionsDeathTest, ReadingANullOperandFailsTheContract)
 {
     const UnaryFunction unary;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "DOM/Properties/DOM_NoFill.h"
 #include "DOM/Properties/DOM_SolidFill.h"
 #include "DOM/Properties/StyleSamples.h"
@@ -54,6 +56,22 @@ TEST(DOM_CellProps, WriteAllThatTheySay)
                R"("_textLayout":{"hasValue":true,"value":2},"_textOrientation":{"which":2,"data":-45.0}})");
     expectPersists(makeFull());
     expectCopiesAndMoves(makeFull());
+}
+
+TEST(DOM_CellProps, PassUnknownAlignmentsAndLayoutsThrough)
+{
+    const auto expectPasses = [](int alignment, int layout) {
+        CellProps props;
+        props.setVerticalAlignment(static_cast<VerticalAlignment>(alignment));
+        props.setTextLayout(static_cast<TextLayout>(layout));
+        expectText(props, R"({"_borders":{"ptr_wrapper":{"id":0}},"_margins":{"ptr_wrapper":{"id":0}},)"
+                          R"("_fill":{"polymorphic_id":0},"_verticalAlignment":{"hasValue":true,"value":)" +
+                              std::to_string(alignment) +
+                              R"(},"_width":{"hasValue":false},"_textLayout":{"hasValue":true,"value":)" +
+                              std::to_string(layout) + R"(},"_textOrientation":{"which":0,"data":{}}})");
+    };
+    expectPasses(300, -1);
+    expectPasses(-1, 300);
 }
 
 TEST(DOM_CellProps, WriteStackedCharactersAsAnEmptyObject)

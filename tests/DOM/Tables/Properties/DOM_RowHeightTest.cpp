@@ -26,8 +26,10 @@ TEST(DOM_RowHeight, WritesItsValueAndItsRule)
 
 TEST(DOM_RowHeight, PassesUnknownRulesThrough)
 {
-    const RowHeight height(boost::none, static_cast<RowHeightRule>(200));
-    expectText(height, R"({"_value":{"hasValue":false},"_rule":{"hasValue":true,"value":200}})");
+    expectText(RowHeight(boost::none, static_cast<RowHeightRule>(300)),
+               R"({"_value":{"hasValue":false},"_rule":{"hasValue":true,"value":300}})");
+    expectText(RowHeight(boost::none, static_cast<RowHeightRule>(-1)),
+               R"({"_value":{"hasValue":false},"_rule":{"hasValue":true,"value":-1}})");
 }
 
 TEST(DOM_RowHeight, TakesWhatItIsGiven)
