@@ -61,7 +61,7 @@ char unescape(char c)
 /// NULs, which no value holds unescaped, so that no step looks for the end.
 class TapeParser {
 public:
-    TapeParser(JSONTape& tape, char* text) : _tape(tape), _in(text) {}
+    TapeParser(JSONTape& tape, char* text, std::uint32_t limit) : _tape(tape), _in(text), _limit(limit) {}
 
     /// @return where the value and the space behind it end.
     const char* parse()
@@ -166,7 +166,7 @@ private:
         const Open container = _open.back();
         _open.pop_back();
         const std::size_t size = _tape._size - container.node;
-        if (size > std::numeric_limits<std::uint32_t>::max()) {
+        if (size > _limit) {
             fail();
         }
         TapeNode& node = _tape._nodes.get()[container.node];
@@ -268,7 +268,7 @@ private:
         constexpr std::int64_t Unbounded = std::numeric_limits<std::int64_t>::max() / 4;
         std::int64_t exponent = 0;
         if (!exponentText.empty()) {
-            exponentText.remove_prefix(exponentText.size() > 1 && exponentText[1] == '+' ? 2 : 1);
+            exponentText.remove_prefix(exponentText[1] == '+' ? 2 : 1);
             const bool isSmall = exponentText.front() == '-';
             if (std::from_chars(exponentText.data(), exponentText.data() + exponentText.size(), exponent)
                     .ec == std::errc::result_out_of_range) {
@@ -301,7 +301,7 @@ private:
         }
         ++_in;
         const auto length = static_cast<std::size_t>(out - begin);
-        if (length > std::numeric_limits<std::uint32_t>::max()) {
+        if (length > _limit) {
             fail();
         }
         append(Kind::String, reinterpret_cast<std::uint64_t>(begin), static_cast<std::uint32_t>(length));
@@ -405,8 +405,8 @@ private:
         constexpr std::size_t FirstCapacity = 64;
         const std::size_t larger = _capacity == 0 ? FirstCapacity : _capacity * 2;
         void* const nodes = std::realloc(_tape._nodes.get(), larger * sizeof(TapeNode));
-        if (nodes == nullptr) {
-            throw std::bad_alloc();
+        if (nodes == nullptr) {     // GCOVR_EXCL_LINE: only without memory
+            throw std::bad_alloc(); // GCOVR_EXCL_LINE
         }
         static_cast<void>(_tape._nodes.release());
         _tape._nodes.reset(static_cast<TapeNode*>(nodes));
@@ -415,15 +415,16 @@ private:
 
     JSONTape& _tape;
     char* _in;
+    std::uint32_t _limit;
     std::size_t _capacity = 0;
     std::vector<Open> _open{};
 };
 
-JSONTape::JSONTape(std::string text) : _text(std::move(text))
+JSONTape::JSONTape(std::string text, std::uint32_t limit) : _text(std::move(text))
 {
     const std::size_t length = _text.size();
     _text.append(sizeof(std::uint64_t), '\0');
-    TapeParser parser(*this, _text.data());
+    TapeParser parser(*this, _text.data(), limit);
     if (parser.parse() != _text.data() + length) {
         throwFailedCheck("IsObject()");
     }

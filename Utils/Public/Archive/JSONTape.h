@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <limits>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -41,8 +42,11 @@ struct TapeNode {
 /// the text, which is changed in place.
 class DOM_API JSONTape {
 public:
-    /// @throws RapidJSONException when the text is not one JSON value.
-    explicit JSONTape(std::string text);
+    /// The most bytes of a string, and nodes of a container, that a node can count.
+    static constexpr std::uint32_t MaxSize = std::numeric_limits<std::uint32_t>::max();
+
+    /// @throws RapidJSONException when the text is not one JSON value, or has a string or container above the limit.
+    explicit JSONTape(std::string text, std::uint32_t limit = MaxSize);
     JSONTape(const JSONTape&) = delete;
     JSONTape& operator=(const JSONTape&) = delete;
     ~JSONTape() = default;

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "Utils/Public/Archive/Persist.h"
+#include "Utils/Public/Archive/PersistStandard.h"
 #include "Utils/Public/Clonable.h"
 #include "Utils/Public/Ptr/PropagateConstPtr.h"
 #include "Utils/Public/Ptr/SharedConstPtr.h"
@@ -166,8 +167,7 @@ struct Persist<std::shared_ptr<T>> {
         if (value) {
             const Object& object = *value;
             const auto& type = PersistDetails::savePolymorphicType(archive, object);
-            const auto [id, isNew] =
-                archive.findShared(dynamic_cast<const void*>(value.get()), typeid(object));
+            const auto [id, isNew] = archive.findShared(dynamic_cast<const void*>(&object), typeid(object));
             archive.writeKey("ptr_wrapper");
             archive.startObject();
             archive.member("id", id);
@@ -302,7 +302,7 @@ struct Persist<PlainPointers<T>> {
     {
         const std::size_t size = archive.enterArray();
         value.pointers.clear();
-        value.pointers.reserve(size);
+        PersistDetails::reserveForLoad(value.pointers, size);
         for (std::size_t index = 0; index < size; ++index) {
             archive.seekUnnamed();
             value.pointers.push_back(PersistDetails::loadPlainPointer<T>(archive));

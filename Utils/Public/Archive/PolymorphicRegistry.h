@@ -79,9 +79,12 @@ class PolymorphicVirtualCaster final : public PolymorphicCaster {
 public:
     const void* downcast(const void* base) const override
     {
-        return static_cast<const Derived*>(static_cast<const Base*>(base));
+        return &static_cast<const Derived&>(*static_cast<const Base*>(base));
     }
-    void* upcast(void* derived) const override { return static_cast<Base*>(static_cast<Derived*>(derived)); }
+    void* upcast(void* derived) const override
+    {
+        return &static_cast<Base&>(*static_cast<Derived*>(derived));
+    }
 };
 
 /// The casters from a base down to a derived class.
@@ -134,7 +137,7 @@ struct TypeRegistration {
         StaticObject<InputBindingMap<JSONInputArchive>>::getInstance().map.emplace(
             typeid(T), InputBinding{&typeid(T), []() -> void* { return new T; },
                                     []() -> std::shared_ptr<void> { return std::make_shared<T>(); },
-                                    [](void* object) { delete static_cast<T*>(object); },
+                                    [](void* object) { std::default_delete<T>()(static_cast<T*>(object)); },
                                     [](JSONInputArchive& archive, void* object) {
                                         static_cast<T*>(object)->serialize(archive);
                                     }});

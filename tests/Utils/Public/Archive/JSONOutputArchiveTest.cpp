@@ -238,6 +238,18 @@ TEST(JSONOutputArchiveTest, LimitCanBeRaised)
               Chain::makeText(Links));
 }
 
+TEST(JSONOutputArchiveTest, KeyLargerThanTheBufferIsWrittenWhole)
+{
+    const std::string key(300000, 'k');
+    std::ostringstream stream;
+    {
+        cereal::JSONOutputArchive archive(stream);
+        archive.member("a", 1);
+        archive.member(key, 2);
+    }
+    EXPECT_EQ(stream.str(), "{\"a\":1,\"" + key + "\":2}");
+}
+
 TEST(JSONOutputArchiveTest, ArchiveGivenUpBecauseOfAnExceptionIsDestroyedAndLeavesNoWholeText)
 {
     std::ostringstream stream;

@@ -133,6 +133,17 @@ TEST(JSONTapeTest, ReadsIntegersBeyond64BitsAsDoubles)
     EXPECT_EQ(parseDouble("100000000000000000000000000"), 1e26);
 }
 
+TEST(JSONTapeTest, RefusesAStringOrAContainerAboveTheLimit)
+{
+    constexpr std::uint32_t Limit = 4;
+    EXPECT_EQ(JSONTape("\"four\"", Limit).root().string(), "four");
+    EXPECT_EQ(JSONTape("[1,2,3]", Limit).root().payload, 3U);
+    EXPECT_EQ(JSONTape("{\"a\":[1]}", Limit).root().payload, 1U);
+    for (const char* text : {"\"fives\"", "[\"fives\"]", "[1,2,3,4]", "{\"a\":[1,2]}"}) {
+        EXPECT_THROW(JSONTape(text, Limit), RapidJSONException) << text;
+    }
+}
+
 TEST(JSONTapeTest, ReadsDoublesExactly)
 {
     EXPECT_EQ(parseDouble("0.1"), 0.1);
@@ -148,11 +159,15 @@ TEST(JSONTapeTest, ReadsNumbersTooSmallForADoubleAsZero)
     EXPECT_EQ(parseDouble("0.00000000000000000001e-320"), 0.0);
     EXPECT_EQ(parseDouble("1e-99999999999999999999999"), 0.0);
     EXPECT_TRUE(std::signbit(parseDouble("-1e-400")));
+    EXPECT_EQ(parseDouble("0." + std::string(400, '0') + "1"), 0.0);
+    EXPECT_EQ(parseDouble("0." + std::string(800, '0') + "1e+400"), 0.0);
 }
 
 TEST(JSONTapeTest, RefusesNumbersTooLargeForADouble)
 {
-    for (const char* text : {"1e309", "-1e309", "1000e306", "0.001e312", "1e99999999999999999999999"}) {
+    for (const std::string& text :
+         {std::string("1e309"), std::string("1e+309"), std::string("-1e309"), std::string("1000e306"),
+          std::string("0.001e312"), std::string("1e99999999999999999999999"), "1" + std::string(400, '0')}) {
         EXPECT_FALSE(isParsed(text)) << text;
     }
 }
@@ -217,7 +232,9 @@ TEST(JSONTapeTest, RefusesWhatIsNotJSON)
                              "\"\\u12\"",
                              "\"\\u12G4\"",
                              "\"\\ud800\"",
+                             "\"\\ud800\\n\"",
                              "\"\\ud800\\u0041\"",
+                             "\"\\ud800\\ue000\"",
                              "\"\\udc00\"",
                              "\"a\nb\"",
                              "'a'",
