@@ -82,7 +82,8 @@ public:
     /// also one to an empty style.
     bool isEmpty(CollaborationUtils::WithTombstones withTombstones) const;
 
-    /// That of the first block; null for a cell without blocks.
+    /// That of the first block; null for a cell without blocks. A first block that is neither a paragraph nor a `FieldBlock`,
+    /// such as a table, fails the contract "result".
     std::shared_ptr<const Hyperlink> getHyperlink() const;
 
     // The rest. A cell in a table gets its merge properties and its pivot table through the table, which keeps track of

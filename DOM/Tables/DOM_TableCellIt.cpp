@@ -31,12 +31,7 @@ typename TableCellIt<TableType>::CellType* TableCellIt<TableType>::operator*() c
 template <class TableType>
 TableCellIt<TableType>& TableCellIt<TableType>::operator++()
 {
-    if (!isAtEnd()) {
-        ++_dataIndex;
-        if (isAtEnd()) {
-            updateForNextValidCell();
-        }
-    }
+    goToDataIndex(_dataIndex + 1);
     return *this;
 }
 
@@ -58,6 +53,18 @@ TableCellIt<TableType>& TableCellIt<TableType>::operator--()
         }
     }
     return *this;
+}
+
+template <class TableType>
+void TableCellIt<TableType>::goToDataIndex(std::size_t dataIndex)
+{
+    if (isAtEnd()) {
+        return;
+    }
+    _dataIndex = std::max(_dataIndex, dataIndex);
+    if (isAtEnd()) {
+        updateForNextValidCell();
+    }
 }
 
 template <class TableType>

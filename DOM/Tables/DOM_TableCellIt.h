@@ -12,7 +12,8 @@ namespace QN::DOM {
 /// Walks the stored cells of a whole table, row by row, and passes over runs of empty rows at once: a walk costs in
 /// proportion to the stored cells. Any structural change of the table invalidates it.
 ///
-/// A stored cell of a loaded table may be null.
+/// A stored cell of a loaded table may be null. Where rows of a loaded table share cells, as only a damaged file has it, the
+/// walk comes to these once in each row; `StoredCellWalk` does not.
 template <class TableType>
 class TableCellIt {
 public:
@@ -30,6 +31,9 @@ public:
     TableCellIt& operator++();
     /// Stays where it is when there is no earlier stored cell.
     TableCellIt& operator--();
+    /// To a later cell of this row by its place in the chunk, or to the next row with cells where the row has none there.
+    /// Not backwards. Constant within the row.
+    void goToDataIndex(std::size_t dataIndex);
 
     /// Two iterators over one table are equal when they stand at the same stored cell, or both at the end.
     bool operator==(const TableCellIt& other) const

@@ -12,8 +12,9 @@
 #include "Utils/Public/ReadonlyVector.h"
 #include "Utils/Public/UUID.h"
 
-/// Searches in lists of blocks and of numbered lists. All are linear, look at the given list alone and not inside its blocks,
-/// and stop at the first find. A null block that a search comes to fails the contract "plainPtr".
+/// Searches in lists of blocks and of numbered lists. Those by identity, `UUID` or name are linear, look at the given list
+/// alone and not inside its blocks, and stop at the first find. Those for a hyperlink look at one place only. A null block
+/// or run that a search comes to fails the contract "plainPtr".
 namespace QN::DOM {
 
 class Block;

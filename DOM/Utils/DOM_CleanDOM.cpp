@@ -1,18 +1,16 @@
 #include "DOM/Utils/DOM_CleanDOM.h"
 
-#include <unordered_set>
-
 #include "DOM/DOM_Document.h"
 #include "DOM/DOM_HeaderFooterPair.h"
 #include "DOM/DOM_TextWithTombstones.h"
+#include "DOM/Tables/DOM_StoredCellWalk.h"
 #include "DOM/Tables/DOM_Table.h"
 
 namespace QN::DOM {
 
 namespace {
 
-/// Cleans texts at once and puts off their tables, so that nested tables need no deeper stack. A walk over a loaded table
-/// can come to a cell more than once: each table is cleaned only the first time.
+/// Cleans texts at once and puts off their tables, so that nested tables need no deeper stack.
 class TreeCleaner {
 public:
     explicit TreeCleaner(DOMCleanType type) : _type(type) {}
@@ -37,11 +35,7 @@ public:
 
     void clean(Block& block)
     {
-        visit<void>(block, [&](Table& table) {
-            if (_seenTables.insert(&table).second) {
-                _pendingTables.push_back(&table);
-            }
-        });
+        visit<void>(block, [&](Table& table) { _pendingTables.push_back(&table); });
     }
 
     void cleanPendingTables()
@@ -69,15 +63,14 @@ private:
         if (has(DOMCleanType::RowColumnIDs)) {
             table.resetRowColumnIDsToPredefined();
         }
-        for (TableCellIt<Table> position(table); !position.isAtEnd(); ++position) {
-            if (Cell* const cell = *position) {
+        for (StoredCellWalk<Table> cells(table); !cells.isAtEnd(); ++cells) {
+            if (Cell* const cell = *cells) {
                 clean(cell->getTextWithTombstones());
             }
         }
     }
 
     DOMCleanType _type;
-    std::unordered_set<const Table*> _seenTables;
     std::vector<Table*> _pendingTables;
 };
 

@@ -8,9 +8,9 @@
 /// Strips a tree of the state of collaborative editing, for a document that leaves it.
 ///
 /// The tombstones of every text go, whatever the flags; what the flags say is done to every table, also to those in the cells
-/// of others. What stands in shapes and in frames, comments and notes is left alone. A walk is linear and does not recurse
-/// over nested tables; null blocks and cells are passed over, while a pair
-/// of a loaded document without its header or footer breaks the contract of `getHeader`: validate first.
+/// of others. What stands in shapes and in frames, comments and notes is left alone. A walk is linear, whatever a file made of
+/// the tables, and does not recurse over nested ones. Null blocks and cells are passed over, while a pair without its header
+/// or footer, as a file can leave it, fails the contract "plainPtr" of `getHeader` or `getFooter`: validate first.
 namespace QN::DOM {
 
 class Block;

@@ -6,7 +6,9 @@
 
 namespace QN::DOM {
 
-struct NativeNodeAddressTag {};
+struct NativeNodeAddressTag {
+    static constexpr const char* RootName = "document";
+};
 
 /// The address of a node in a `Document`.
 using NodeAddress = NodeAddressing::NodeAddress<NativeNodeAddressTag, NativeDOMNodeType>;

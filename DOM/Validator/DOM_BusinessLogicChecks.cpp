@@ -1,34 +1,62 @@
 #include "DOM/Validator/DOM_BusinessLogicChecks.h"
 
-#include <boost/optional/optional.hpp>
-
 #include <algorithm>
+#include <vector>
 
 #include "DOM/Tables/DOM_Table.h"
+#include "DOM/Validator/DOM_RangeSweep.h"
 
 namespace QN::DOM::BusinessLogicChecks {
 
 namespace {
 
-/// The smallest part of a range outside of which it has no merged cells.
-boost::optional<TableRange> getPartWithMergedCells(const Table& table, const TableRange& range)
+/// The columns of a range at which merged ranges begin and end, behind its own first one.
+std::vector<ColumnIndex> getColumnsOfChange(const std::vector<TableRange>& mergedRanges,
+                                            const TableRange& range)
 {
-    boost::optional<TableRange> part;
-    for (const TableRange& merged : table.getMergedCellsCache().getMergedRanges()) {
-        if (!merged.intersects(range)) {
-            continue;
+    std::vector<ColumnIndex> columns{range.getBeginColumn()};
+    for (const TableRange& merged : mergedRanges) {
+        for (const ColumnIndex column : {merged.getBeginColumn(), merged.getEndColumn()}) {
+            if (range.getBeginColumn() < column && column < range.getEndColumn()) {
+                columns.push_back(column);
+            }
         }
-        const TableRange common(std::max(merged.getBeginRow(), range.getBeginRow()),
-                                std::min(merged.getEndRow(), range.getEndRow()),
-                                std::max(merged.getBeginColumn(), range.getBeginColumn()),
-                                std::min(merged.getEndColumn(), range.getEndColumn()));
-        part = !part ? common
-                     : TableRange(std::min(part->getBeginRow(), common.getBeginRow()),
-                                  std::max(part->getEndRow(), common.getEndRow()),
-                                  std::min(part->getBeginColumn(), common.getBeginColumn()),
-                                  std::max(part->getEndColumn(), common.getEndColumn()));
     }
-    return part;
+    std::sort(columns.begin(), columns.end());
+    return columns;
+}
+
+/// The first one whose first row stands in the range behind that of the range.
+const TableRange* findFirstThatBeginsBelow(const std::vector<TableRange>& mergedRanges,
+                                           const TableRange& range)
+{
+    const auto getRoot = [](const TableRange& merged) {
+        return CellIndex(merged.getBeginRow(), merged.getBeginColumn());
+    };
+    const TableRange* first = nullptr;
+    for (const TableRange& merged : mergedRanges) {
+        if (merged.getBeginRow() > range.getBeginRow() && merged.intersects(range) &&
+            (first == nullptr || getRoot(merged) < getRoot(*first))) {
+            first = &merged;
+        }
+    }
+    return first;
+}
+
+/// The range of the first merged cell. From a row to the next one, cells can only come to belong to a merged range where one
+/// begins; within a row, only where one begins or another ends.
+const TableRange* findFirstMergedRange(const std::vector<TableRange>& mergedRanges, const TableRange& range)
+{
+    MergedRangeSweep sweep(mergedRanges);
+    for (const ColumnIndex column : getColumnsOfChange(mergedRanges, range)) {
+        if (const TableRange* const merged = sweep.find(range.getBeginRow(), column)) {
+            return merged;
+        }
+    }
+    const TableRange* const below = findFirstThatBeginsBelow(mergedRanges, range);
+    return below == nullptr
+               ? nullptr
+               : sweep.find(below->getBeginRow(), std::max(below->getBeginColumn(), range.getBeginColumn()));
 }
 
 } // namespace
@@ -40,18 +68,9 @@ bool isIntersectedAndNotContained(const TableRange& first, const TableRange& sec
 
 bool isMergedRangeIntersectedAndOutOfRangeExists(const Table& table, const TableRange& range)
 {
-    const auto part = getPartWithMergedCells(table, range);
-    if (!part) {
-        return false;
-    }
-    for (RowIndex row = part->getBeginRow(); row < part->getEndRow(); ++row) {
-        for (ColumnIndex column = part->getBeginColumn(); column < part->getEndColumn(); ++column) {
-            if (const auto merged = table.getMergedRange(row, column)) {
-                return isIntersectedAndNotContained(range, *merged);
-            }
-        }
-    }
-    return false;
+    const TableRange* const merged =
+        findFirstMergedRange(table.getMergedCellsCache().getMergedRanges(), range);
+    return merged != nullptr && isIntersectedAndNotContained(range, *merged);
 }
 
 } // namespace QN::DOM::BusinessLogicChecks

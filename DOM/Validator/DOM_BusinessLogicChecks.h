@@ -14,8 +14,8 @@ namespace BusinessLogicChecks {
 DOM_API bool isIntersectedAndNotContained(const TableRange& first, const TableRange& second);
 
 /// Whether the first merged range that is met in the range, row by row, sticks out of it. Later ones are not looked at,
-/// even if they would give another answer. False without merged cells in the range. Linear in the merged ranges and, in
-/// the range, in the positions before the first merged cell that lie between merged ranges.
+/// even if they would give another answer. False without merged cells in the range. Takes n log n steps for the n merged
+/// ranges of the table, however large the range is. Merged ranges that a file left unsorted are taken as if they were sorted.
 DOM_API bool isMergedRangeIntersectedAndOutOfRangeExists(const Table& table, const TableRange& range);
 
 } // namespace BusinessLogicChecks

@@ -3,8 +3,14 @@
 #include <fmt/format.h>
 
 #include <ostream>
+#include <tuple>
 
 namespace QN::DOM {
+
+NodeAddress Finding::getAddress() const
+{
+    return addresses != nullptr ? addresses->get(addressNumber) : NodeAddress();
+}
 
 std::string Finding::getContractText() const
 {
@@ -18,7 +24,15 @@ std::string Finding::getContractText() const
 std::string Finding::toString() const
 {
     const char* const kindText = kind == FindingKind::Hazard ? " (hazard)" : "";
-    return fmt::format("{} at {}{}", getContractText(), address.toString(), kindText);
+    return fmt::format("{} at {}{}", getContractText(), getAddress().toString(), kindText);
+}
+
+bool operator==(const Finding& left, const Finding& right)
+{
+    const auto tie = [](const Finding& finding) {
+        return std::tie(finding.kind, finding.file, finding.line, finding.condition, finding.message);
+    };
+    return tie(left) == tie(right) && left.getAddress() == right.getAddress();
 }
 
 std::ostream& operator<<(std::ostream& stream, const Finding& finding)

@@ -24,12 +24,13 @@ class ValidatorWalk;
 ///
 /// The rules stand once and are run in two ways. `validate` stops the process at the first one that is broken, as any
 /// contract does, and a document is valid when it returns. `collectFindings` goes on to the end and tells of each; the first
-/// of them is the one that `validate` stops at.
+/// broken rule among them is the one that `validate` stops at.
 ///
-/// Neither recurses over the depth of a document, and both take time in proportion to its size, but for a logarithm in the
-/// merged ranges and pivot tables of a table.
+/// Neither recurses over the depth of a document, and both take time and memory in proportion to its size, but for a
+/// logarithm in the merged ranges and pivot tables of a table.
 ///
-/// A validator serves one walk: it remembers the names of the tables and the tags of the lists that it has seen.
+/// A validator serves one walk: it remembers the names of the tables and the tags of the lists that it has seen. One that was
+/// moved from can only be assigned to and destroyed.
 class DOM_API Validator {
 public:
     using Blocks = ReadonlyPtrVector<Block>;
@@ -40,10 +41,13 @@ public:
     ~Validator();
 
     /// All broken rules in the order of the walk, and behind them the hazards: named styles that are valid and yet stop a
-    /// later look-up, by a predefined type that no style has, or by one under another `UUID` than its own.
+    /// later operation, by a predefined type that does not exist, by one under another `UUID` than its own, or by the `UUID`
+    /// of one that no style has. The broken rules of the identifiers of one table's inserted rows and columns have no order
+    /// among themselves: in an equal document another of them can be the first.
     ///
     /// Never stops the process, whatever a file made of the document: null blocks, runs and cells, unknown identifiers,
-    /// caches that do not fit.
+    /// caches that do not fit. A cell that the rows of a damaged table share is looked at in the first of them alone, also
+    /// for what depends on its place: merged ranges and pivot tables.
     static std::vector<Finding> collectFindings(const Document& document);
 
     void validate(const Document& document);

@@ -26,18 +26,9 @@ void ValidatorWalk::validate(const Document& document)
         const Steps steps(_address, NativeDOMNodeType::Blocks);
         validateRootBlocks(document.getBlocks());
     }
-    {
-        const Steps steps(_address, NativeDOMNodeType::HeadersFooters);
-        validate(document.getHeadersFooters());
-    }
-    {
-        const Steps steps(_address, NativeDOMNodeType::Notes);
-        validate(document.getNotes());
-    }
-    {
-        const Steps steps(_address, NativeDOMNodeType::Comments);
-        validate(document.getComments());
-    }
+    validate(document.getHeadersFooters());
+    validate(document.getNotes());
+    validate(document.getComments());
     const Styles& styles = document.getStyles();
     validateStyles(styles.getTextStyles(), NativeDOMNodeType::TextStyles);
     validateStyles(styles.getTableStyles(), NativeDOMNodeType::TableStyles);
@@ -49,9 +40,10 @@ void ValidatorWalk::validateRootBlocks(const Blocks& blocks)
     _listTags.clear();
     _listTagUses.clear();
     validate(blocks);
-    for (const auto& [tag, address] : _listTagUses) {
+    for (const auto& [tag, addressNumber] : _listTagUses) {
         if (!_tmpListTags.insert(tag).second) {
-            report(ValidatorRules::ListTagInOneScope, ValidatorRules::ListTagInOneScope.message, address);
+            report(ValidatorRules::ListTagInOneScope, ValidatorRules::ListTagInOneScope.message,
+                   addressNumber);
         }
     }
     _listTags.clear();
@@ -60,6 +52,7 @@ void ValidatorWalk::validateRootBlocks(const Blocks& blocks)
 
 void ValidatorWalk::validate(const UUIDContainer<HeaderFooterPair>& headersFooters)
 {
+    const Steps collectionSteps(_address, NativeDOMNodeType::HeadersFooters);
     for (auto pair = headersFooters.begin(); pair != headersFooters.end(); ++pair) {
         const Steps pairSteps(_address, AddressInMap(pair.getKey()));
         for (const auto& [type, step] : {std::pair(HeaderFooterType::Header, NativeDOMNodeType::Header),
@@ -76,6 +69,7 @@ void ValidatorWalk::validate(const UUIDContainer<HeaderFooterPair>& headersFoote
 
 void ValidatorWalk::validate(const UUIDContainer<Note>& notes)
 {
+    const Steps collectionSteps(_address, NativeDOMNodeType::Notes);
     for (auto note = notes.begin(); note != notes.end(); ++note) {
         const Steps steps(_address, AddressInMap(note.getKey()), NativeDOMNodeType::Blocks);
         checkParagraphs(note->getBlocks(), ValidatorRules::ParagraphsInNote);
@@ -84,6 +78,7 @@ void ValidatorWalk::validate(const UUIDContainer<Note>& notes)
 
 void ValidatorWalk::validate(const UUIDContainer<Comment>& comments)
 {
+    const Steps collectionSteps(_address, NativeDOMNodeType::Comments);
     for (auto comment = comments.begin(); comment != comments.end(); ++comment) {
         const Steps steps(_address, AddressInMap(comment.getKey()), NativeDOMNodeType::Blocks);
         checkParagraphs(comment->getBlocks(), ValidatorRules::ParagraphsInComment);
@@ -134,6 +129,15 @@ void ValidatorWalk::collectHazards(const Document& document)
     collectStyleHazards(styles.getTextStyles(), NativeDOMNodeType::TextStyles);
     collectStyleHazards(styles.getTableStyles(), NativeDOMNodeType::TableStyles);
     collectStyleHazards(styles.getShapeStyles(), NativeDOMNodeType::ShapeStyles);
+    collectTakenKeys(styles.getTextStyles());
+}
+
+/// The address is that of the container.
+void ValidatorWalk::reportHazard(const UUID& styleKey, const Rule& rule)
+{
+    const Steps steps(_address, AddressInMap(styleKey));
+    report(rule, rule.message);
+    _findings->back().kind = FindingKind::Hazard;
 }
 
 /// The name of a style of an unknown type cannot be resolved, and finding a text style by its type looks at the first one
@@ -141,12 +145,7 @@ void ValidatorWalk::collectHazards(const Document& document)
 template <class NamedStyle>
 void ValidatorWalk::collectStyleHazards(const UUIDContainer<NamedStyle>& namedStyles, NativeDOMNodeType step)
 {
-    const auto reportHazard = [&](const UUID& key, const Rule& rule) {
-        NodeAddress address;
-        address.appendItems(step, AddressInMap(key));
-        report(rule, rule.message, address);
-        _findings->back().kind = FindingKind::Hazard;
-    };
+    const Steps collectionSteps(_address, step);
     std::set<PredefinedStyleName> stylesTypes;
     for (auto style = namedStyles.begin(); style != namedStyles.end(); ++style) {
         const auto type = resolveNamedStyleType(*style);
@@ -158,6 +157,25 @@ void ValidatorWalk::collectStyleHazards(const UUIDContainer<NamedStyle>& namedSt
         } else if (std::is_same_v<NamedStyle, NamedTextStyle> && stylesTypes.insert(*type).second &&
                    style->getUUID() != makePredefinedTextStyleUUID(*type)) {
             reportHazard(style.getKey(), ValidatorRules::FixedStyleUUID);
+        }
+    }
+}
+
+/// A predefined style that is missing cannot be added where another style has its key.
+void ValidatorWalk::collectTakenKeys(const UUIDContainer<NamedTextStyle>& textStyles)
+{
+    const Steps collectionSteps(_address, NativeDOMNodeType::TextStyles);
+    std::set<PredefinedStyleName> stylesTypes;
+    for (const NamedTextStyle& style : textStyles) {
+        if (const auto type = resolveNamedStyleType(style)) {
+            stylesTypes.insert(*type);
+        }
+    }
+    for (unsigned number = 0; number <= static_cast<unsigned>(PredefinedStyleName::Hyperlink); ++number) {
+        const auto type = static_cast<PredefinedStyleName>(number);
+        const UUID key = makePredefinedTextStyleUUID(type);
+        if (!stylesTypes.contains(type) && textStyles.find(key) != nullptr) {
+            reportHazard(key, ValidatorRules::FreeStyleKey);
         }
     }
 }

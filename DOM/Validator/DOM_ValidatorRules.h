@@ -1,6 +1,7 @@
 #pragma once
 
-/// The rules that a well-formed document keeps, each with its fixed place and text. `Validator` says when they hold.
+/// The rules that a well-formed document keeps, each with its fixed place and text. `Validator` says when they hold. Those of
+/// a table's own storage stand in `Table::validate` and `RowColIDContainer::validate`, without a fixed line.
 
 namespace QN::DOM::ValidatorRules {
 
@@ -59,5 +60,6 @@ inline constexpr Rule FixedStyleUUID{"DOM/PredefinedStyles/DOM_PredefinedStylesU
                                      "style->getUUID() == makeUUIDFunctor(styleType)"};
 inline constexpr Rule KnownStyleType{"DOM/PredefinedStyles/DOM_PredefinedTextStylesUtils", 360,
                                      "No named text style with such type."};
+inline constexpr Rule FreeStyleKey{"DOM_UUIDContainer", 67, "_collection.find(uuid) == _collection.end()"};
 
 } // namespace QN::DOM::ValidatorRules

@@ -27,33 +27,6 @@ bool holdsPivotTable(const Table& table, const TableRange& area)
 
 } // namespace
 
-void ValidatorWalk::TableLevel::goToNextCell()
-{
-    using Position = TableCellIt<const Table>;
-    const std::size_t chunk = position.getChunkIndex();
-    const std::size_t next = position.getDataIndex() + 1;
-    ++position;
-    while (!position.isAtEnd() && position.getChunkIndex() == chunk && position.getDataIndex() < next) {
-        const RowIndex row = position.getRowIndex();
-        const auto isBehindShared = [&](std::uint64_t column) {
-            const Position found(table, row, ColumnIndex(column));
-            return found.isAtEnd() || found.getRowIndex() != row || found.getDataIndex() >= next;
-        };
-        std::uint64_t begin = 0;
-        std::uint64_t end = MaxColumns + 1;
-        while (begin < end) {
-            const std::uint64_t middle = begin + (end - begin) / 2;
-            if (isBehindShared(middle)) {
-                end = middle;
-            } else {
-                begin = middle + 1;
-            }
-        }
-        position = isBehindShared(begin) ? Position(table, row, ColumnIndex(begin))
-                                         : Position(table, row + 1, ColumnIndex(0));
-    }
-}
-
 void ValidatorWalk::enter(const Table& table)
 {
     checkTable(table);
@@ -63,17 +36,17 @@ void ValidatorWalk::enter(const Table& table)
 void ValidatorWalk::checkTable(const Table& table)
 {
     table.validate([&](const char* file, int line, const char* expression) {
-        report({file, line, expression}, {}, _address);
+        report({file, line, expression}, {});
     });
 
     const std::string& tableName = table.getName();
     if (!validateTableName(tableName)) {
         report(ValidatorRules::ValidTableName,
-               fmt::format(fmt::runtime(ValidatorRules::ValidTableName.message), tableName), _address);
+               fmt::format(fmt::runtime(ValidatorRules::ValidTableName.message), tableName));
     }
     if (!_tableNames.insert(tableName).second) {
         report(ValidatorRules::UniqueTableName,
-               fmt::format(fmt::runtime(ValidatorRules::UniqueTableName.message), tableName), _address);
+               fmt::format(fmt::runtime(ValidatorRules::UniqueTableName.message), tableName));
     }
 
     if (const auto& filterInfo = table.getFilterInfo()) {
@@ -89,13 +62,13 @@ void ValidatorWalk::walkToNextCell()
 {
     TableLevel& level = *std::get<std::unique_ptr<TableLevel>>(_levels.back());
     _address.cutToPosition(level.addressSize);
-    if (level.position.isAtEnd()) {
+    if (level.cells.isAtEnd()) {
         _levels.pop_back();
         return;
     }
-    const Cell* const cell = *level.position;
-    const CellIndex index(level.position.getRowIndex(), level.position.getColIndex());
-    level.goToNextCell();
+    const Cell* const cell = *level.cells;
+    const CellIndex index(level.cells.getRowIndex(), level.cells.getColIndex());
+    ++level.cells;
 
     _address.appendItems(NodeAddressing::AddressInTable(index));
     if (!check(cell != nullptr, ValidatorRules::NoNullPointer)) {

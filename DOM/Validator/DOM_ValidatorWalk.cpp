@@ -59,7 +59,10 @@ struct ValidatorWalk::RunVisitor {
     ValidatorWalk& walk;
 };
 
-ValidatorWalk::ValidatorWalk(std::vector<Finding>* findings) : _findings(findings) {}
+ValidatorWalk::ValidatorWalk(std::vector<Finding>* findings)
+    : _findings(findings), _address(findings != nullptr ? std::make_shared<AddressTree>() : nullptr)
+{
+}
 
 ValidatorWalk::~ValidatorWalk() = default;
 
@@ -68,16 +71,21 @@ ValidatorWalk::~ValidatorWalk() = default;
 bool ValidatorWalk::check(bool holds, const Rule& rule)
 {
     if (!holds) {
-        report(rule, rule.message, _address);
+        report(rule, rule.message);
     }
     return holds;
 }
 
-void ValidatorWalk::report(const Rule& rule, std::string message, const NodeAddress& address)
+void ValidatorWalk::report(const Rule& rule, std::string message)
+{
+    report(rule, std::move(message), _address.record());
+}
+
+void ValidatorWalk::report(const Rule& rule, std::string message, std::size_t addressNumber)
 {
     if (_findings != nullptr) {
-        _findings->push_back(
-            {FindingKind::BrokenRule, rule.file, rule.line, rule.condition, std::move(message), address});
+        _findings->push_back({FindingKind::BrokenRule, rule.file, rule.line, rule.condition,
+                              std::move(message), _address.getTree(), addressNumber});
     } else if (message.empty()) {
         doFailAssert(rule.file, rule.line, rule.condition);
     } else {
@@ -150,7 +158,7 @@ void ValidatorWalk::enterNested(const Blocks& blocks, const Cell* cell)
 /// The address still holds the step to the blocks of the cell.
 void ValidatorWalk::leave(const Cell& cell)
 {
-    _address.trimAtEnd(1);
+    _address.cutToPosition(_address.size() - 1);
     const Blocks blocks = cell.getRawBlocks();
     check(blocks.size() == 1U || !holdsFormulaOrValue(blocks), ValidatorRules::OneBlockInValueCell);
 }
@@ -211,14 +219,14 @@ void ValidatorWalk::validate(const NumberingRef& numberingRef)
 {
     const auto& tag = numberingRef.getListTagUUID();
     if (tag && _listTags.insert(tag->get()).second) {
-        _listTagUses.emplace_back(tag->get(), _address);
+        _listTagUses.emplace_back(tag->get(), _address.record());
     }
 }
 
 /// Also by the levels, since the blocks of a cell or a shape that is given by itself are the first in the address.
 bool ValidatorWalk::isInRootBlocks() const
 {
-    return _nestedLevels == 0 && NodeAddressUtils::isAddressToRootBlocks(_address);
+    return _nestedLevels == 0 && NodeAddressUtils::isAddressToRootBlocks(_address.get());
 }
 
 } // namespace QN::DOM

@@ -11,9 +11,9 @@
 
 #include "DOM/DOM_Block.h"
 #include "DOM/DOM_UUIDContainer.h"
-#include "DOM/Utils/DOM_NodeAddress.h"
 #include "DOM/Validator/DOM_Finding.h"
 #include "DOM/Validator/DOM_ValidatorRules.h"
+#include "DOM/Validator/DOM_WalkAddress.h"
 #include "Utils/Public/ReadonlyVector.h"
 #include "Utils/Public/TableIndices/TableRange.h"
 #include "Utils/Public/UUID.h"
@@ -82,7 +82,9 @@ private:
 
     /// Gives back whether the rule holds.
     bool check(bool holds, const Rule& rule);
-    void report(const Rule& rule, std::string message, const NodeAddress& address);
+    void report(const Rule& rule, std::string message);
+    /// @param addressNumber that of an address that was recorded.
+    void report(const Rule& rule, std::string message, std::size_t addressNumber);
 
     // The walk. What has blocks inside is entered, which puts it on the levels, and then walked through.
 
@@ -108,17 +110,19 @@ private:
     void checkParagraphs(const Blocks& blocks, const Rule& rule);
     template <class NamedStyle>
     void validateStyles(const UUIDContainer<NamedStyle>& namedStyles, NativeDOMNodeType step);
+    void reportHazard(const UUID& styleKey, const Rule& rule);
     template <class NamedStyle>
     void collectStyleHazards(const UUIDContainer<NamedStyle>& namedStyles, NativeDOMNodeType step);
+    void collectTakenKeys(const UUIDContainer<NamedTextStyle>& textStyles);
 
     std::vector<Finding>* _findings;
-    NodeAddress _address;
+    WalkAddress _address;
     std::vector<Level> _levels;
     std::size_t _nestedLevels = 0;
     boost::unordered_set<std::string> _tableNames;
-    /// The list tags of the scope at hand, and where each is used first.
+    /// The list tags of the scope at hand, and where each is used first: the numbers of recorded addresses.
     boost::unordered_set<UUID> _listTags;
-    std::vector<std::pair<UUID, NodeAddress>> _listTagUses;
+    std::vector<std::pair<UUID, std::size_t>> _listTagUses;
     /// The list tags of the finished scopes.
     boost::unordered_set<UUID> _tmpListTags;
 };
@@ -127,7 +131,7 @@ private:
 class ValidatorWalk::Steps {
 public:
     template <class... Items>
-    explicit Steps(NodeAddress& address, Items&&... items) : _address(address), _size(address.size())
+    explicit Steps(WalkAddress& address, Items&&... items) : _address(address), _size(address.size())
     {
         address.appendItems(std::forward<Items>(items)...);
     }
@@ -136,7 +140,7 @@ public:
     ~Steps() { _address.cutToPosition(_size); }
 
 private:
-    NodeAddress& _address;
+    WalkAddress& _address;
     std::size_t _size;
 };
 

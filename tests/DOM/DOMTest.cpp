@@ -23,6 +23,7 @@ const std::set<std::string>& getSourceOnlyHeaders()
         "DOM/Validator/DOM_ValidatorRules.h",
         "DOM/Validator/DOM_ValidatorTableLevel.h",
         "DOM/Validator/DOM_ValidatorWalk.h",
+        "DOM/Validator/DOM_WalkAddress.h",
     };
     return Headers;
 }

@@ -1,6 +1,6 @@
 #include "Support/StatedStops.h"
 
-#include <optional>
+#include <algorithm>
 #include <vector>
 
 #include "Utils/Public/Archive/RapidJSON.h"
@@ -78,14 +78,19 @@ bool holdsReversedIndexRange(std::string_view json)
     return anyValue(json, [](const Value& value) { return value.IsObject() && isReversedRange(value); });
 }
 
-bool holdsTableOrFormula(std::string_view json)
+bool lacksOperand(std::string_view saved)
 {
-    return anyValue(json, [](const Value& value) {
-        if (!value.IsString()) {
+    const auto isNull = [](const Value& operand) {
+        return operand["this->getPtr()"]["polymorphic_id"].GetUint() == 0;
+    };
+    return anyValue(saved, [&](const Value& value) {
+        if (!value.IsObject()) {
             return false;
         }
-        const std::string_view text(value.GetString(), value.GetStringLength());
-        return text == "QN::DOM::Table" || text.starts_with("QN::DOM::FormulaSyntaxTree::");
+        const auto operands = value.FindMember("_args");
+        return operands != value.MemberEnd() &&
+               (operands->value.Empty() ||
+                std::any_of(operands->value.Begin(), operands->value.End(), isNull));
     });
 }
 

@@ -8,9 +8,8 @@ namespace QN::Test {
 /// and its begin is not below its end. Everything else in a text must end in a document or an exception.
 bool holdsReversedIndexRange(std::string_view json);
 
-/// Whether the text names a table or a node of a formula tree. Those load with whatever identifiers and operands a file
-/// states; one that lacks an operand stops the process by contract when it is copied, and one without identifiers when it
-/// is compared.
-bool holdsTableOrFormula(std::string_view json);
+/// Whether a node of a formula in a document's saved text has no operands, or null for one: copying or comparing such a tree
+/// stops the process by contract.
+bool lacksOperand(std::string_view saved);
 
 } // namespace QN::Test

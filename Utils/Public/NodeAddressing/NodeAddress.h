@@ -25,7 +25,7 @@ namespace QN::NodeAddressing {
 /// The path from the root of a tree to one of its nodes: named steps, which say what member is entered, and steps to an
 /// element of a list, a table or a map. It holds no pointer into the tree, so that it means the same in a copy.
 ///
-/// `Tag` tells apart the addresses in different trees. The empty address is that of the root.
+/// `Tag` tells apart the addresses in different trees. The empty address is that of the root; `Tag::RootName` names it.
 template <class Tag, class NodeType>
 class NodeAddress {
 public:
@@ -93,11 +93,12 @@ public:
         return seed;
     }
 
-    /// A text for people, such as "blocks[3]/cell(2, 5)/blocks[0]"; "document" for the empty address.
+    /// A text for people, such as "blocks[3]/cell(2, 5)/blocks[0]"; the name of the root for the empty address. A named step
+    /// of the same name, alone, has the same text.
     std::string toString() const
     {
         if (_items.empty()) {
-            return "document";
+            return Tag::RootName;
         }
         std::string text;
         for (const Item& item : _items) {

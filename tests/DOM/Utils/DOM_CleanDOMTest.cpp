@@ -15,8 +15,10 @@
 #include "DOM/DOM_Note.h"
 #include "DOM/DOM_SectionTag.h"
 #include "DOM/Shapes/DOM_Shape.h"
+#include "DOM/Tables/DamagedTables.h"
 #include "DOM/Tables/TableInspection.h"
 #include "DOM/TextSamples.h"
+#include "Support/RoundTrip.h"
 #include "Support/SmallStack.h"
 
 namespace QN::DOM::CleanDOMTest {
@@ -114,6 +116,9 @@ Table& getTable(TextWithTombstones& text, std::size_t index)
     return dynamic_cast<Table&>(*text.getBlocks()[index]);
 }
 
+/// What every kind of node is cleaned with, since without flags only texts change.
+constexpr DOMCleanType NoneAndAll[] = {DOMCleanType::None, All};
+
 TEST(DOMCleanTypeTest, FlagsAreBits)
 {
     EXPECT_EQ(static_cast<unsigned>(DOMCleanType::Tombstones), 1U);
@@ -175,23 +180,29 @@ TEST(CleanDOMTest, ATextIsCleanedWithItsTables)
 
 TEST(CleanDOMTest, ACellIsCleanedWithItsTables)
 {
-    Cell cell;
-    fill(cell.getTextWithTombstones());
-    cell.getRawBlocks().push_back(makeEditedTable());
-    cleanDOM(cell, All);
-    EXPECT_FALSE(hasTombstones(cell.getTextWithTombstones()));
-    expectCleaned(getTable(cell.getTextWithTombstones(), 1), All);
+    for (const DOMCleanType type : NoneAndAll) {
+        SCOPED_TRACE(static_cast<unsigned>(type));
+        Cell cell;
+        fill(cell.getTextWithTombstones());
+        cell.getRawBlocks().push_back(makeEditedTable());
+        cleanDOM(cell, type);
+        EXPECT_FALSE(hasTombstones(cell.getTextWithTombstones()));
+        expectCleaned(getTable(cell.getTextWithTombstones(), 1), type);
+    }
 }
 
 TEST(CleanDOMTest, TablesInTheCellsOfTablesAreCleaned)
 {
-    const auto outer = makeEditedTable();
-    TextWithTombstones& text = outer->getCell(RowIndex(2), ColumnIndex(1))->getTextWithTombstones();
-    text.getBlocks().clear();
-    text.getBlocks().push_back(makeEditedTable());
-    cleanDOM(*outer, All);
-    expectCleaned(getTable(text, 0), All);
-    expectCleaned(*outer, All);
+    for (const DOMCleanType type : NoneAndAll) {
+        SCOPED_TRACE(static_cast<unsigned>(type));
+        const auto outer = makeEditedTable();
+        TextWithTombstones& text = outer->getCell(RowIndex(2), ColumnIndex(1))->getTextWithTombstones();
+        text.getBlocks().clear();
+        text.getBlocks().push_back(makeEditedTable());
+        cleanDOM(*outer, type);
+        expectCleaned(getTable(text, 0), type);
+        expectCleaned(*outer, type);
+    }
 }
 
 TEST(CleanDOMTest, EveryChunkIsReached)
@@ -207,27 +218,32 @@ TEST(CleanDOMTest, EveryChunkIsReached)
 
 TEST(CleanDOMTest, AVectorOfBlocksIsCleanedPastNullBlocks)
 {
-    std::vector<std::unique_ptr<Block>> blocks;
-    blocks.push_back(nullptr);
-    blocks.push_back(makeEditedTable());
-    blocks.push_back(nullptr);
-    blocks.push_back(makeEditedTable());
-    cleanDOM(blocks, All);
-    ASSERT_EQ(blocks.size(), 4U);
-    expectCleaned(dynamic_cast<Table&>(*blocks[1]), All);
-    expectCleaned(dynamic_cast<Table&>(*blocks[3]), All);
-    EXPECT_EQ(blocks[0], nullptr);
+    for (const DOMCleanType type : NoneAndAll) {
+        SCOPED_TRACE(static_cast<unsigned>(type));
+        std::vector<std::unique_ptr<Block>> blocks;
+        blocks.push_back(nullptr);
+        blocks.push_back(makeEditedTable());
+        blocks.push_back(nullptr);
+        blocks.push_back(makeEditedTable());
+        cleanDOM(blocks, type);
+        ASSERT_EQ(blocks.size(), 4U);
+        expectCleaned(dynamic_cast<Table&>(*blocks[1]), type);
+        expectCleaned(dynamic_cast<Table&>(*blocks[3]), type);
+        EXPECT_EQ(blocks[0], nullptr);
 
-    blocks.clear();
-    cleanDOM(blocks, All);
-    EXPECT_TRUE(blocks.empty());
+        blocks.clear();
+        cleanDOM(blocks, type);
+        EXPECT_TRUE(blocks.empty());
+    }
 }
 
 TEST(CleanDOMTest, OfBlocksOnlyATableReacts)
 {
-    const std::unique_ptr<Block> table = makeEditedTable();
-    cleanDOM(*table, All);
-    expectCleaned(dynamic_cast<Table&>(*table), All);
+    for (const DOMCleanType type : NoneAndAll) {
+        const std::unique_ptr<Block> table = makeEditedTable();
+        cleanDOM(*table, type);
+        expectCleaned(dynamic_cast<Table&>(*table), type);
+    }
 
     Shape shape;
     fill(shape.getTextWithTombstones());
@@ -266,37 +282,43 @@ TEST(CleanDOMTest, NullCellsOfAFileArePassedOver)
 
 TEST(CleanDOMTest, APairOfHeaderAndFooterIsCleanedOnBothSides)
 {
-    HeaderFooterPair pair;
-    for (TextWithTombstones* const text : {&pair.getHeader(), &pair.getFooter()}) {
-        fill(*text);
-        text->getBlocks().push_back(makeEditedTable());
-    }
-    cleanDOM(pair, All);
-    for (TextWithTombstones* const text : {&pair.getHeader(), &pair.getFooter()}) {
-        EXPECT_FALSE(hasTombstones(*text));
-        expectCleaned(getTable(*text, 1), All);
+    for (const DOMCleanType type : NoneAndAll) {
+        SCOPED_TRACE(static_cast<unsigned>(type));
+        HeaderFooterPair pair;
+        for (TextWithTombstones* const text : {&pair.getHeader(), &pair.getFooter()}) {
+            fill(*text);
+            text->getBlocks().push_back(makeEditedTable());
+        }
+        cleanDOM(pair, type);
+        for (TextWithTombstones* const text : {&pair.getHeader(), &pair.getFooter()}) {
+            EXPECT_FALSE(hasTombstones(*text));
+            expectCleaned(getTable(*text, 1), type);
+        }
     }
 }
 
 TEST(CleanDOMTest, ADocumentIsCleanedInItsTextAndItsHeadersAndFooters)
 {
-    Document document;
-    fill(document.getTextWithTombstones());
-    document.getBlocks().push_back(makeEditedTable());
-    for (const char digit : {'1', '2'}) {
-        HeaderFooterPair& pair = document.getHeadersFooters().insert(HeaderFooterPair(makeUUID(digit)));
-        fill(pair.getHeader());
-        fill(pair.getFooter());
-        pair.getFooter().getBlocks().push_back(makeEditedTable());
-    }
-    cleanDOM(document, All);
-    EXPECT_FALSE(hasTombstones(document.getTextWithTombstones()));
-    expectCleaned(getTable(document.getTextWithTombstones(), 1), All);
-    EXPECT_EQ(document.getHeadersFooters().size(), 2U);
-    for (HeaderFooterPair& pair : document.getHeadersFooters()) {
-        EXPECT_FALSE(hasTombstones(pair.getHeader()));
-        EXPECT_FALSE(hasTombstones(pair.getFooter()));
-        expectCleaned(getTable(pair.getFooter(), 1), All);
+    for (const DOMCleanType type : NoneAndAll) {
+        SCOPED_TRACE(static_cast<unsigned>(type));
+        Document document;
+        fill(document.getTextWithTombstones());
+        document.getBlocks().push_back(makeEditedTable());
+        for (const char digit : {'1', '2'}) {
+            HeaderFooterPair& pair = document.getHeadersFooters().insert(HeaderFooterPair(makeUUID(digit)));
+            fill(pair.getHeader());
+            fill(pair.getFooter());
+            pair.getFooter().getBlocks().push_back(makeEditedTable());
+        }
+        cleanDOM(document, type);
+        EXPECT_FALSE(hasTombstones(document.getTextWithTombstones()));
+        expectCleaned(getTable(document.getTextWithTombstones(), 1), type);
+        EXPECT_EQ(document.getHeadersFooters().size(), 2U);
+        for (HeaderFooterPair& pair : document.getHeadersFooters()) {
+            EXPECT_FALSE(hasTombstones(pair.getHeader()));
+            EXPECT_FALSE(hasTombstones(pair.getFooter()));
+            expectCleaned(getTable(pair.getFooter(), 1), type);
+        }
     }
 }
 
@@ -362,6 +384,49 @@ TEST(CleanDOMTest, AFileWhoseRowsShareTheirCellsTakesNoLongerWhenItIsNested)
     }
     cleanDOM(outermost, DOMCleanType::UUID);
     EXPECT_EQ(innermost->getUUID(), UUID());
+}
+
+TEST(CleanDOMTest, AFileWhoseRowsShareTheirCellsTakesNoLongerWhenItIsWide)
+{
+    // A row at a time there were 2,000,000,000 texts to clean.
+    constexpr std::size_t Cells = 20000;
+    Table table =
+        makeDamagedTable(Cells, makeSharedOffsets(Cells, 200000), [] { return makeNumberCell(5.0); });
+    for (CellDataByCol& stored : getFirstChunk(table).data) {
+        fill(stored.cell->getTextWithTombstones());
+    }
+    cleanDOM(table, DOMCleanType::None);
+    for (const CellDataByCol& stored : getFirstChunk(table).data) {
+        ASSERT_FALSE(hasTombstones(stored.cell->getTextWithTombstones()));
+    }
+}
+
+TEST(CleanDOMTest, CellsOfAFileThatStandBeforeThoseOfEarlierRowsAreCleaned)
+{
+    Table table = makeDamagedTable(4, {2, 3, 1, 4, 0}, [] { return makeNumberCell(5.0); });
+    for (CellDataByCol& stored : getFirstChunk(table).data) {
+        stored.colID = ColumnID(1);
+        fill(stored.cell->getTextWithTombstones());
+    }
+    cleanDOM(table, DOMCleanType::None);
+    for (const CellDataByCol& stored : getFirstChunk(table).data) {
+        EXPECT_FALSE(hasTombstones(stored.cell->getTextWithTombstones()));
+    }
+}
+
+TEST(CleanDOMDeathTest, APairWithoutItsHeaderOrFooterBreaksTheContract)
+{
+    const char* const message = "Utils/Public/Ptr/PtrUtils:246: plainPtr\n";
+    HeaderFooterPair pair;
+    const HeaderFooterPair taken(std::move(pair));
+    EXPECT_DEATH(cleanDOM(pair, DOMCleanType::None), message);
+    pair.setHeader(TextWithTombstones());
+    EXPECT_DEATH(cleanDOM(pair, DOMCleanType::None), message);
+
+    Document document;
+    HeaderFooterPair& inDocument = document.getHeadersFooters().insert(HeaderFooterPair(makeUUID('1')));
+    const HeaderFooterPair takenFromDocument(std::move(inDocument));
+    EXPECT_DEATH(cleanDOM(document, DOMCleanType::None), message);
 }
 
 } // namespace

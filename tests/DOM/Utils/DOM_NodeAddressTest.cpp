@@ -54,6 +54,14 @@ TEST(NodeAddressTest, PrintsTheRoot)
     EXPECT_EQ(print(NodeAddress()), "document");
 }
 
+TEST(NodeAddressTest, AStepOfTheNameOfTheRootHasItsText)
+{
+    NodeAddress address;
+    address.appendItems(NativeDOMNodeType::Document);
+    EXPECT_EQ(print(address), "document");
+    EXPECT_NE(address, NodeAddress());
+}
+
 TEST(NodeAddressTest, PrintsWhatNoDocumentHas)
 {
     NodeAddress address;

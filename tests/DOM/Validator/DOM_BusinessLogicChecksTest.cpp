@@ -2,10 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <limits>
 #include <random>
+#include <vector>
 
 #include "DOM/DOM.h"
 #include "DOM/Tables/TableSamples.h"
+#include "DOM/Validator/TableFaults.h"
 
 namespace QN::DOM::BusinessLogicChecksTest {
 namespace {
@@ -74,21 +78,89 @@ bool walkLogicalCells(const Table& table, const TableRange& range)
     return false;
 }
 
+class Random {
+public:
+    explicit Random(unsigned seed) : _engine(seed) {}
+    std::uint64_t below(std::uint64_t count) { return _engine() % count; }
+
+    TableRange makeRangeBelow(std::uint64_t begin, std::uint64_t size)
+    {
+        const std::uint64_t row = below(begin);
+        const std::uint64_t column = below(begin);
+        return makeRange(row, row + 1 + below(size), column, column + 1 + below(size));
+    }
+
+private:
+    std::mt19937 _engine;
+};
+
 TEST(BusinessLogicChecksTest, TheAnswerIsThatOfAWalkOverAllPositions)
 {
-    std::mt19937 random(5);
-    const auto below = [&](std::uint64_t count) { return random() % count; };
-    for (int round = 0; round < 300; ++round) {
-        Table table = makeGrid(12, 12);
-        for (std::uint64_t count = below(5); count > 0; --count) {
-            table.setMergeProps(RowIndex(below(12)), ColumnIndex(below(12)), below(4), below(4));
+    std::size_t yes = 0;
+    for (unsigned seed = 0; seed < 3000; ++seed) {
+        Random random(seed);
+        Table table = makeGrid(3, 3);
+        // Ranges that overlap, and some that stand partly or wholly behind the table.
+        for (std::uint64_t count = random.below(8); count > 0; --count) {
+            getMember<MergedCellsCache>(table, "_mergedCellsCache").mergeCells(random.makeRangeBelow(12, 8));
         }
-        const std::uint64_t row = below(10);
-        const std::uint64_t column = below(10);
-        const TableRange range = makeRange(row, row + 1 + below(6), column, column + 1 + below(6));
-        EXPECT_EQ(isMergedRangeIntersectedAndOutOfRangeExists(table, range), walkLogicalCells(table, range))
-            << "round " << round;
+        const TableRange range = random.makeRangeBelow(10, 7);
+        const bool expected = walkLogicalCells(table, range);
+        yes += expected ? 1 : 0;
+        ASSERT_EQ(isMergedRangeIntersectedAndOutOfRangeExists(table, range), expected) << "seed " << seed;
     }
+    EXPECT_GT(yes, 300U);
+    EXPECT_LT(yes, 2700U);
+}
+
+TEST(BusinessLogicChecksTest, MergedRangesThatAFileLeftUnsortedAreTakenAsSorted)
+{
+    for (unsigned seed = 0; seed < 1000; ++seed) {
+        Random random(seed);
+        Table table = makeGrid(3, 3);
+        auto& cache = getMember<MergedCellsCache>(table, "_mergedCellsCache");
+        for (std::uint64_t count = random.below(8); count > 0; --count) {
+            cache.mergeCells(random.makeRangeBelow(12, 8));
+        }
+        const TableRange range = random.makeRangeBelow(10, 7);
+        const bool expected = walkLogicalCells(table, range);
+        auto& ranges = getMember<std::vector<TableRange>>(cache, "_mergedRanges");
+        std::shuffle(ranges.begin(), ranges.end(), std::mt19937(seed));
+        ASSERT_EQ(isMergedRangeIntersectedAndOutOfRangeExists(table, range), expected) << "seed " << seed;
+    }
+}
+
+TEST(BusinessLogicChecksTest, PositionsBehindTheTableCount)
+{
+    const Table table = [] {
+        Table grid = makeGrid(2, 2);
+        getMember<MergedCellsCache>(grid, "_mergedCellsCache").mergeCells(makeRange(5, 7, 5, 7));
+        return grid;
+    }();
+    EXPECT_TRUE(isMergedRangeIntersectedAndOutOfRangeExists(table, makeRange(0, 6, 0, 6)));
+    EXPECT_FALSE(isMergedRangeIntersectedAndOutOfRangeExists(table, makeRange(0, 7, 0, 7)));
+}
+
+TEST(BusinessLogicChecksTest, TheSizeOfTheRangeDoesNotMatter)
+{
+    Table table = makeGrid(2, 2);
+    auto& cache = getMember<MergedCellsCache>(table, "_mergedCellsCache");
+    // Each of the first two holds no cell of the range, but all positions between them would have to be asked.
+    cache.mergeCells(makeRange(0, 1, 0, MaxColumns));
+    cache.mergeCells(makeRange(MaxRows - 1, MaxRows, 5, 7));
+    EXPECT_FALSE(
+        isMergedRangeIntersectedAndOutOfRangeExists(table, makeRange(1, MaxRows - 1, 0, MaxColumns)));
+    EXPECT_FALSE(isMergedRangeIntersectedAndOutOfRangeExists(table, makeRange(1, MaxRows, 0, MaxColumns)));
+    EXPECT_TRUE(isMergedRangeIntersectedAndOutOfRangeExists(table, makeRange(1, MaxRows, 0, 6)));
+    EXPECT_FALSE(isMergedRangeIntersectedAndOutOfRangeExists(table, TableRange()));
+
+    constexpr std::uint64_t Largest = std::numeric_limits<std::uint64_t>::max();
+    cache.mergeCells(makeRange(0, Largest, 0, 1));
+    cache.mergeCells(makeRange(1, 2, 0, 1));
+    cache.mergeCells(makeRange(Largest - 2, Largest, 0, 1));
+    // Below the one in rows 1 and 2, the long one holds no cells.
+    EXPECT_TRUE(isMergedRangeIntersectedAndOutOfRangeExists(table, makeRange(2, Largest - 1, 0, 1)));
+    EXPECT_FALSE(isMergedRangeIntersectedAndOutOfRangeExists(table, makeRange(2, Largest, 0, 1)));
 }
 
 } // namespace

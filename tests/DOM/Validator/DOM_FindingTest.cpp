@@ -2,10 +2,22 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <sstream>
+#include <utility>
 
 namespace QN::DOM::FindingTest {
 namespace {
+
+void setAddress(Finding& finding, const NodeAddress& address)
+{
+    auto tree = std::make_shared<AddressTree>();
+    finding.addressNumber = AddressTree::Root;
+    for (const NodeAddress::Item& item : address) {
+        finding.addressNumber = tree->add(finding.addressNumber, item);
+    }
+    finding.addresses = std::move(tree);
+}
 
 Finding makeFinding(std::string message)
 {
@@ -14,7 +26,9 @@ Finding makeFinding(std::string message)
     finding.line = 12;
     finding.condition = "a < b";
     finding.message = std::move(message);
-    finding.address.appendItems(NativeDOMNodeType::Blocks, NodeAddressing::AddressInList(3));
+    NodeAddress address;
+    address.appendItems(NativeDOMNodeType::Blocks, NodeAddressing::AddressInList(3));
+    setAddress(finding, address);
     return finding;
 }
 
@@ -46,8 +60,35 @@ TEST(FindingTest, ComparesByValue)
     EXPECT_EQ(makeFinding("a"), makeFinding("a"));
     EXPECT_NE(makeFinding("a"), makeFinding("b"));
     Finding other = makeFinding("a");
-    other.address = NodeAddress();
+    EXPECT_NE(makeFinding("a").addresses, other.addresses);
+    other.addresses = nullptr;
     EXPECT_NE(makeFinding("a"), other);
+    EXPECT_EQ(Finding(), Finding());
+
+    const auto expectUnequal = [](auto member, auto value) {
+        Finding changed = makeFinding("a");
+        changed.*member = value;
+        EXPECT_NE(makeFinding("a"), changed);
+    };
+    expectUnequal(&Finding::kind, FindingKind::Hazard);
+    expectUnequal(&Finding::file, "DOM/Folder/DOM_Other");
+    expectUnequal(&Finding::line, 13);
+    expectUnequal(&Finding::condition, "a <= b");
+    expectUnequal(&Finding::message, "b");
+    expectUnequal(&Finding::addressNumber, AddressTree::Root);
+}
+
+TEST(FindingTest, HasTheAddressOfItsNumber)
+{
+    EXPECT_EQ(Finding().getAddress(), NodeAddress());
+    NodeAddress address;
+    address.appendItems(NativeDOMNodeType::Blocks, NodeAddressing::AddressInList(3));
+    Finding finding = makeFinding("");
+    EXPECT_EQ(finding.getAddress(), address);
+    const Finding copy = finding;
+    EXPECT_EQ(copy.addresses, finding.addresses);
+    finding.addressNumber = AddressTree::Root;
+    EXPECT_EQ(finding.getAddress(), NodeAddress());
 }
 
 } // namespace

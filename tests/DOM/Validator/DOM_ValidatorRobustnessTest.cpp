@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <cstdint>
 #include <string>
 
 #include "DOM/Validator/DOM_Validator.h"
 #include "DOM/Validator/ValidatorSamples.h"
+#include "Support/AllocationCount.h"
 #include "Support/RandomDocument.h"
 #include "Support/Randomize.h"
 #include "Support/RoundTrip.h"
@@ -124,10 +124,9 @@ TEST(ValidatorRobustnessTest, FindingsAreCollectedFromTextsWithBytesChanged)
 
 // Depth
 
-/// Shapes and cells in turn, with an empty text run at the bottom.
-std::unique_ptr<Block> nest(std::size_t levels)
+/// Shapes and cells in turn, with a block at the bottom.
+std::unique_ptr<Block> nest(std::size_t levels, std::unique_ptr<Block> block = makeParagraph({""}))
 {
-    std::unique_ptr<Block> block = makeParagraph({""});
     for (std::size_t level = 0; level < levels; ++level) {
         if (level % 2 == 0) {
             auto shape = std::make_unique<Shape>();
@@ -172,8 +171,90 @@ TEST(ValidatorRobustnessTest, ValidationTakesASmallStackAtTheNestingLimitOfTheAr
     ASSERT_EQ(findings.size(), 1U);
     EXPECT_EQ(findings[0].line, 71);
     // The step and the index of the body, two more of each shape and three of each cell, and those of the run.
-    EXPECT_EQ(findings[0].address.size(), 2 + (levels + 1) / 2 * 2 + levels / 2 * 3 + 2);
+    EXPECT_EQ(findings[0].getAddress().size(), 2 + (levels + 1) / 2 * 2 + levels / 2 * 3 + 2);
     expectBothWaysAgree(document);
+}
+
+using Blocks = std::vector<std::unique_ptr<Block>>;
+
+/// The blocks stand in a shape, under so many levels.
+Document makeDeepDocument(std::size_t levels, Blocks blocks)
+{
+    auto shape = std::make_unique<Shape>();
+    shape->getBlocks() = std::move(blocks);
+    Document document;
+    document.getBlocks().push_back(nest(levels, std::move(shape)));
+    return document;
+}
+
+Blocks makeListParagraphs(std::size_t count)
+{
+    Blocks blocks;
+    for (; count > 0; --count) {
+        auto paragraph = makeListParagraph('1');
+        paragraph->getNumRef()->setListTagUUID(ListTagUUID(UUID::generate()));
+        blocks.push_back(std::move(paragraph));
+    }
+    return blocks;
+}
+
+constexpr std::size_t DeepLevels = 1000;
+constexpr std::size_t Many = 4096;
+
+/// What the findings of a document take, of which there must be many.
+std::size_t measureFindings(const Document& document)
+{
+    const std::size_t before = getLiveBytes();
+    const std::vector<Finding> findings = Validator::collectFindings(document);
+    EXPECT_EQ(findings.size(), Many);
+    return getLiveBytes() - before;
+}
+
+/// The steps of the long address are held twice at most.
+void expectNoMoreThanLevels(std::size_t deep, std::size_t flat)
+{
+    EXPECT_LT(flat, Many * 500);
+    EXPECT_LT(deep, flat + DeepLevels * 500);
+}
+
+TEST(ValidatorRobustnessTest, WhatFindingsTakeDoesNotGrowWithTheirDepth)
+{
+    const auto measure = [](std::size_t levels) {
+        return measureFindings(makeDeepDocument(levels, Blocks(Many)));
+    };
+    expectNoMoreThanLevels(measure(DeepLevels), measure(1));
+}
+
+TEST(ValidatorRobustnessTest, WhatFindingsOfListsTakeDoesNotGrowWithTheirDepth)
+{
+    const auto measure = [](std::size_t levels) {
+        const Blocks items = makeListParagraphs(Many);
+        const auto makeCopies = [&] {
+            Blocks copies;
+            for (const auto& item : items) {
+                copies.push_back(cloneUnique(*item));
+            }
+            return copies;
+        };
+        Document document;
+        getPair(document, '1').getHeader().getBlocks() = makeCopies();
+        auto& footer = getPair(document, '1').getFooter().getBlocks();
+        footer = std::move(makeDeepDocument(levels, makeCopies()).getBlocks());
+        return measureFindings(document);
+    };
+    expectNoMoreThanLevels(measure(DeepLevels), measure(1));
+}
+
+TEST(ValidatorRobustnessTest, StoppingAllocatesNothingForTheAddressesOfLists)
+{
+    const auto count = [](std::size_t tags) {
+        const Document document = makeDeepDocument(DeepLevels, makeListParagraphs(tags));
+        return countAllocations([&] { Validator().validate(document); });
+    };
+    const std::size_t allocations = count(2 * Many) - count(Many);
+    // Two to know the tag again, in its scope and behind it.
+    EXPECT_GE(allocations, 2 * Many);
+    EXPECT_LT(allocations, 2 * Many + Many / 10);
 }
 
 } // namespace

@@ -148,20 +148,54 @@ TEST(ValidatorStylesTest, AKnownTypeUnderAnotherUUIDIsAHazardOfFindingIt)
                  "DOM_PredefinedStylesUtils:49: style->getUUID\\(\\) == makeUUIDFunctor\\(styleType\\)");
 }
 
+TEST(ValidatorStylesTest, AnotherStyleUnderTheUUIDOfAMissingTypeIsAHazardOfAddingThat)
+{
+    const std::string text =
+        "DOM_UUIDContainer:67: _collection.find(uuid) == _collection.end() at textStyles[";
+    const char* const stop = "DOM_UUIDContainer:67: _collection.find\\(uuid\\) == _collection.end\\(\\)";
+    const UUID normal = makePredefinedTextStyleUUID(PredefinedStyleName::Normal);
+    const UUID heading = makePredefinedTextStyleUUID(PredefinedStyleName::Heading10);
+    const UUID last = makePredefinedTextStyleUUID(PredefinedStyleName::Hyperlink);
+
+    Document document;
+    Styles& styles = document.getStyles();
+    styles.getTextStyles().insert(makeStyle<NamedTextStyle>(normal.toString(), std::string("Normal")));
+    expectHazard(document, text + normal.toString() + "]");
+    EXPECT_DEATH(appendPredefinedTextStyles(styles), stop);
+
+    document = Document();
+    styles.getTextStyles().insert(NamedTextStyle(last));
+    expectHazard(document, text + last.toString() + "]");
+    EXPECT_DEATH(appendPredefinedTextStyles(styles), stop);
+
+    // One that is added singly.
+    document = makeStyledDocument();
+    styles.getTextStyles().insert(NamedTextStyle(heading));
+    expectHazard(document, text + heading.toString() + "]");
+    EXPECT_DEATH(styles.getTextStyles().insert(makePredefinedTextStyle(PredefinedStyleName::Heading10)),
+                 stop);
+    styles.getTextStyles().insert(makeStyle<NamedTextStyle>(Highest, PredefinedStyleName::Heading10));
+    EXPECT_EQ(Validator::collectFindings(document).front().line, 49);
+    EXPECT_EQ(Validator::collectFindings(document).size(), 1U);
+}
+
 TEST(ValidatorStylesTest, HazardsStandBehindAllBrokenRules)
 {
     Document document = makeStyledDocument();
     auto& textStyles = document.getStyles().getTextStyles();
     textStyles.insert(makeStyle<NamedTextStyle>(getUUIDText('0'), PredefinedStyleName::Heading1));
     textStyles.insert(makeStyle<NamedTextStyle>(Highest, PredefinedStyleName{99}));
+    textStyles.insert(NamedTextStyle(makePredefinedTextStyleUUID(PredefinedStyleName::Heading10)));
     InComment.put(document, nullptr);
+    document.getStyles().getTableStyles().insert(
+        makeStyle<NamedTableStyle>(Highest, PredefinedStyleName{99}));
     document.getStyles().getShapeStyles().find(makeUUID('6'))->setUUID(UUID(Highest));
     std::string lines;
     for (const Finding& finding : Validator::collectFindings(document)) {
         lines +=
             (finding.kind == FindingKind::Hazard ? "hazard " : "rule ") + std::to_string(finding.line) + "\n";
     }
-    EXPECT_EQ(lines, "rule 254\nrule 54\nrule 57\nhazard 49\nhazard 360\n");
+    EXPECT_EQ(lines, "rule 254\nrule 54\nrule 57\nhazard 49\nhazard 360\nhazard 360\nhazard 67\n");
 }
 
 } // namespace

@@ -236,7 +236,7 @@ TEST(ValidatorTablesTest, AnAreaWhoseRootIsNotStoredIsToldAtItsFirstStoredCell)
     const auto findings = Validator::collectFindings(document);
     ASSERT_EQ(findings.size(), 1U) << getTexts(findings);
     EXPECT_EQ(findings[0].line, 151);
-    EXPECT_EQ(findings[0].address.toString(), getCellAddress(1, 1));
+    EXPECT_EQ(findings[0].getAddress().toString(), getCellAddress(1, 1));
     expectBothWaysAgree(document);
 }
 
@@ -301,9 +301,9 @@ TEST(ValidatorTablesTest, ANullBlockBesideAValueBreaksTwoRules)
     const auto findings = Validator::collectFindings(document);
     ASSERT_EQ(findings.size(), 2U) << getTexts(findings);
     EXPECT_EQ(findings[0].condition, "plainPtr");
-    EXPECT_EQ(findings[0].address.toString(), getCellAddress(1, 1) + "/blocks[0]");
+    EXPECT_EQ(findings[0].getAddress().toString(), getCellAddress(1, 1) + "/blocks[0]");
     EXPECT_EQ(findings[1].line, 235);
-    EXPECT_EQ(findings[1].address.toString(), getCellAddress(1, 1));
+    EXPECT_EQ(findings[1].getAddress().toString(), getCellAddress(1, 1));
     expectBothWaysAgree(document);
 }
 
@@ -319,7 +319,7 @@ TEST(ValidatorTablesTest, TheCellsOfAllChunksAreValidated)
     }
     std::string found;
     for (const Finding& finding : Validator::collectFindings(document)) {
-        found += finding.address.toString() + "\n";
+        found += finding.getAddress().toString() + "\n";
     }
     EXPECT_EQ(found, addresses);
 }

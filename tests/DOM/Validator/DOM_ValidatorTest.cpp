@@ -152,7 +152,8 @@ TEST(ValidatorTest, AListTagIsToldAtItsFirstUseInTheSecondScope)
     blocks.push_back(makeListParagraph('1'));
     const auto findings = Validator::collectFindings(document);
     ASSERT_EQ(findings.size(), 1U) << getTexts(findings);
-    EXPECT_EQ(findings[0].address.toString(), "headersFooters[" + getUUIDText('a') + "]/footer/blocks[1]");
+    EXPECT_EQ(findings[0].getAddress().toString(),
+              "headersFooters[" + getUUIDText('a') + "]/footer/blocks[1]");
 }
 
 TEST(ValidatorTest, TheTagsOfNotesAndCommentsAndStylesBelongToNoScope)
@@ -240,7 +241,7 @@ TEST(ValidatorTest, FindingsStandInTheOrderOfTheWalk)
     }
     std::string addresses;
     for (const Finding& finding : Validator::collectFindings(document)) {
-        addresses += finding.address.toString() + "\n";
+        addresses += finding.getAddress().toString() + "\n";
     }
     EXPECT_EQ(addresses, "blocks[0]/runs[0]\n"
                          "blocks[1]\n"
@@ -319,6 +320,52 @@ TEST(ValidatorTest, APartByItselfIsNotInRootBlocks)
     EXPECT_DEATH(Validator().validate(shape), message);
     EXPECT_DEATH(Validator().validate(SectionTag()), "DOM/Validator/DOM_Validator:265: Section tag");
     EXPECT_DEATH(Validator().validate(TextRun()), "DOM/Validator/DOM_Validator:71: TextRun is empty.");
+}
+
+TEST(ValidatorTest, NotesCommentsAndHeadersByThemselvesAreNotInRootBlocks)
+{
+    const auto message = testing::HasSubstr("DOM/Validator/DOM_Validator:178: Break run");
+    Document document;
+    for (const Place& place : {InNote, InComment, InHeader}) {
+        place.put(document, makeParagraphWith(std::make_unique<BreakRun>()));
+    }
+    EXPECT_DEATH(Validator().validate(document.getNotes()), message);
+    EXPECT_DEATH(Validator().validate(document.getComments()), message);
+    EXPECT_DEATH(Validator().validate(document.getHeadersFooters()), message);
+}
+
+TEST(ValidatorTest, AFaultInAnyPartByItselfIsFound)
+{
+    const auto makeFaulty = [] { return makeParagraphWith(std::make_unique<TextRun>()); };
+    const auto message = testing::Eq("DOM/Validator/DOM_Validator:71: TextRun is empty.\n");
+    Document document;
+    for (const Place& place : {Body, InNote, InComment, InFooter}) {
+        place.put(document, makeFaulty());
+    }
+    Shape shape;
+    shape.getBlocks().push_back(makeFaulty());
+    const auto table = makeSheet("Sheet");
+    Cell& cell = *table->getCell(RowIndex(0), ColumnIndex(0));
+    cell.getRawBlocks().clear();
+    cell.getRawBlocks().push_back(makeFaulty());
+    const auto paragraph = makeFaulty();
+    const Block& block = *paragraph;
+    const TextRun text;
+    const DOM::Run& run = text;
+
+    EXPECT_DEATH(Validator().validate(document.getTextWithTombstones()), message);
+    EXPECT_DEATH(Validator().validate(std::as_const(document).getBlocks()), message);
+    EXPECT_DEATH(Validator().validate(block), message);
+    EXPECT_DEATH(Validator().validate(*paragraph), message);
+    EXPECT_DEATH(Validator().validate(run), message);
+    EXPECT_DEATH(Validator().validate(text), message);
+    EXPECT_DEATH(Validator().validate(*table), message);
+    EXPECT_DEATH(Validator().validate(cell), message);
+    EXPECT_DEATH(Validator().validate(shape), message);
+    EXPECT_DEATH(Validator().validate(document.getNotes()), message);
+    EXPECT_DEATH(Validator().validate(document.getComments()), message);
+    EXPECT_DEATH(Validator().validate(document.getHeadersFooters()), message);
+    EXPECT_DEATH(Validator().validateRootBlocks(std::as_const(document).getBlocks()), message);
 }
 
 TEST(ValidatorTest, AValidatorRemembersTablesAndScopesFromCallToCall)

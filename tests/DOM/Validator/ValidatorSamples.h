@@ -187,7 +187,7 @@ inline void expectFinding(const ExpectedRule& rule, const Fault& fault, const st
     }
     EXPECT_EQ(first.condition, rule.condition);
     EXPECT_EQ(first.message, fault.message);
-    EXPECT_EQ(first.address.toString(), address);
+    EXPECT_EQ(first.getAddress().toString(), address);
 }
 
 /// The document is valid without a fault, and each fault alone breaks the rule: the process stops with its text, and the

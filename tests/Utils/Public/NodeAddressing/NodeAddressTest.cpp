@@ -15,7 +15,9 @@
 
 namespace QN::NodeAddressTest {
 
-struct TreeTag {};
+struct TreeTag {
+    static constexpr const char* RootName = "tree";
+};
 struct OtherTreeTag {};
 enum class Member : unsigned char { Leaves = 1, Root = 2 };
 
@@ -233,7 +235,7 @@ TEST(NodeAddressTest, AddressesInDifferentTreesAreDifferentTypes)
 
 TEST(NodeAddressTest, IsWrittenAsAPath)
 {
-    EXPECT_EQ(Address().toString(), "document");
+    EXPECT_EQ(Address().toString(), "tree");
     EXPECT_EQ(makeOneOfEachKind().toString(), "[3]/cell(2, 5)[219be34f-66e7-4590-8db5-375443207e49]/root");
     Address address;
     address.appendItems(Member::Leaves, AddressInList(3), AddressInTable(RowIndex(2), ColumnIndex(5)),

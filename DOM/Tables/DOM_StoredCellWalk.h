@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "DOM/Tables/DOM_TableCellIt.h"
+
+namespace QN::DOM {
+
+/// Walks the stored cells as `TableCellIt` does, but comes to each only once. In a table that a file damaged, rows can share
+/// cells; a cell is given at the first position at which `TableCellIt` comes to it. So a walk costs in proportion to the
+/// cells and rows, whatever the file says.
+///
+/// Allocates nothing where the rows of each chunk hold its cells one after the other, as those of a sound table do. Any
+/// structural change of the table invalidates it.
+///
+/// A stored cell of a loaded table may be null.
+template <class TableType>
+class StoredCellWalk {
+public:
+    using CellType = typename TableCellIt<TableType>::CellType;
+
+    /// At the first stored cell.
+    explicit StoredCellWalk(TableType& table);
+
+    /// Whether no stored cell is left.
+    bool isAtEnd() const { return _position.isAtEnd(); }
+
+    /// Null at the end.
+    CellType* operator*() const { return *_position; }
+
+    StoredCellWalk& operator++();
+
+    RowIndex getRowIndex() const { return _position.getRowIndex(); }
+    /// 0 at the end.
+    ColumnIndex getColIndex() const { return _position.getColIndex(); }
+
+private:
+    void skipVisited();
+    void markVisited(std::size_t place);
+    std::size_t findUnvisited(std::size_t place);
+
+    TableCellIt<TableType> _position;
+    std::size_t _chunk = 0;
+    /// So many cells of the chunk, its first ones, are all that was visited, as long as they come in order.
+    std::size_t _visitedInOrder = 0;
+    bool _isInOrder = true;
+    /// Otherwise: for a visited cell of the chunk, a place up to which all cells from there on are visited; for another its
+    /// own. Cells behind the last entry are not visited.
+    std::vector<std::size_t> _next;
+};
+
+extern template class DOM_API StoredCellWalk<Table>;
+extern template class DOM_API StoredCellWalk<const Table>;
+
+} // namespace QN::DOM
