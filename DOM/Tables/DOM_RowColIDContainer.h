@@ -8,6 +8,7 @@
 
 #include "Utils/Public/ClassScheme/Declare.h"
 #include "Utils/Public/ContractSink.h"
+#include "Utils/Public/SeededHash.h"
 
 namespace QN::DOM {
 
@@ -98,7 +99,7 @@ private:
 
     Ranges _predefinedIDs;
     Items _insertedItems;
-    boost::unordered_flat_map<std::uint64_t, std::uint64_t> _idToIndex;
+    boost::unordered_flat_map<std::uint64_t, std::uint64_t, SeededHash> _idToIndex;
     std::uint64_t _predefinedIDsCount = 0;
 
     BOOST_DESCRIBE_CLASS(RowColIDContainer, (), (), (),

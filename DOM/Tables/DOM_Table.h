@@ -37,6 +37,7 @@
 #include "Utils/Public/CallableRef.h"
 #include "Utils/Public/ContractSink.h"
 #include "Utils/Public/ReadonlyVector.h"
+#include "Utils/Public/SeededHash.h"
 #include "Utils/Public/Size2D.h"
 #include "Utils/Public/TableIndices/TableRange.h"
 #include "Utils/Public/UUIDable.h"
@@ -55,7 +56,9 @@ namespace QN::DOM {
 ///
 /// An axis has as many positions as a table can have, and an identifier for each while nothing is removed. The positions
 /// that removals free at its end have numbers for identifiers that never resolve: a cell that is created there is stored
-/// and walked over, but `getCell` does not find it.
+/// and walked over, but `getCell` does not find it. When all predefined ones of an axis were removed, a position
+/// without an inserted one has not even a number, and whatever asks for it fails the contract of
+/// `RowColIDContainer::getID`.
 class DOM_API Table final : public Reflectable<Block, UUIDable> {
 public:
     using IndexIncludingTombstones = CollaborationUtils::IndexIncludingTombstones;
@@ -65,8 +68,8 @@ public:
     using ConditionalFormats =
         CollaborationUtils::CollectionWithTombstones<std::vector<std::unique_ptr<ConditionalFormat>>>;
     using DefinedNames = boost::unordered_map<std::string, FormulaSyntaxTree::ExprPtr>;
-    using RowStyles = boost::unordered_map<RowID, SharedStylePtr<RowStyle>>;
-    using ColumnStyles = boost::unordered_map<ColumnID, SharedStylePtr<ColumnStyle>>;
+    using RowStyles = boost::unordered_map<RowID, SharedStylePtr<RowStyle>, SeededHash>;
+    using ColumnStyles = boost::unordered_map<ColumnID, SharedStylePtr<ColumnStyle>, SeededHash>;
 
     /// One coordinate of a reference: a position, or an identifier.
     using RowReference = boost::variant<RowIndex, RowID>;
@@ -354,7 +357,9 @@ public:
     /// Reports each broken invariant instead.
     void validate(const ContractSink& sink) const;
 
-    /// Whether the stored cells are equal, empty ones left out: a stored empty cell equals no cell at all.
+    /// Whether the stored cells of the live rows are equal, empty ones left out: a stored empty cell equals no cell at all.
+    /// Linear also where a damaged file makes rows share cells; such a table equals only one with the same rows in the
+    /// same chunks.
     bool areCellsEqual(const Table& other) const;
     /// Whether the styles of rows and columns are equal, position by position.
     bool areStylesEqual(const Table& other) const;

@@ -7,6 +7,7 @@
 
 #include "CollaborationUtils/Public/CU_TombstonesStorage.h"
 #include "Utils/Public/ClassScheme/Declare.h"
+#include "Utils/Public/SeededHash.h"
 
 namespace QN::DOM {
 
@@ -50,7 +51,7 @@ public:
 
 private:
     CollaborationUtils::TombstonesStorage _tombstones;
-    boost::unordered_map<std::uint64_t, IndexIncludingTombstones> _idToIndexMap;
+    boost::unordered_map<std::uint64_t, IndexIncludingTombstones, SeededHash> _idToIndexMap;
 
     BOOST_DESCRIBE_CLASS(TombstonesWithIDsStorage, (), (), (), (_tombstones, _idToIndexMap))
 };

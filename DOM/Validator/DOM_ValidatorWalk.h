@@ -15,6 +15,7 @@
 #include "DOM/Validator/DOM_ValidatorRules.h"
 #include "DOM/Validator/DOM_WalkAddress.h"
 #include "Utils/Public/ReadonlyVector.h"
+#include "Utils/Public/SeededHash.h"
 #include "Utils/Public/TableIndices/TableRange.h"
 #include "Utils/Public/UUID.h"
 
@@ -119,12 +120,12 @@ private:
     WalkAddress _address;
     std::vector<Level> _levels;
     std::size_t _nestedLevels = 0;
-    boost::unordered_set<std::string> _tableNames;
+    boost::unordered_set<std::string, SeededHash> _tableNames;
     /// The list tags of the scope at hand, and where each is used first: the numbers of recorded addresses.
-    boost::unordered_set<UUID> _listTags;
+    boost::unordered_set<UUID, SeededHash> _listTags;
     std::vector<std::pair<UUID, std::size_t>> _listTagUses;
     /// The list tags of the finished scopes.
-    boost::unordered_set<UUID> _tmpListTags;
+    boost::unordered_set<UUID, SeededHash> _tmpListTags;
 };
 
 /// Puts steps behind the address for its own life.

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "Utils/Public/Environment.h"
+#include "Utils/Public/MixBits.h"
 
 namespace QN {
 
@@ -36,21 +37,12 @@ constexpr int getDigitValue(char digit)
     throw BadUUIDError("Malformed UUID: \"" + std::string(text.data(), text.size()) + "\"");
 }
 
-/// A mix of 64 bits (the finaliser of SplitMix64).
-constexpr std::uint64_t mix(std::uint64_t bits)
-{
-    bits += 0x9e3779b97f4a7c15U;
-    bits = (bits ^ (bits >> 30U)) * 0xbf58476d1ce4e5b9U;
-    bits = (bits ^ (bits >> 27U)) * 0x94d049bb133111ebU;
-    return bits ^ (bits >> 31U);
-}
-
 /// A permutation of the 128-bit values: a Feistel network, so that no two values fall together.
 constexpr void permute(std::uint64_t& high, std::uint64_t& low)
 {
     for (std::uint64_t round = 0; round < 3; ++round) {
-        low ^= mix(high + 2 * round);
-        high ^= mix(low + 2 * round + 1);
+        low ^= mixBits(high + 2 * round);
+        high ^= mixBits(low + 2 * round + 1);
     }
 }
 
@@ -103,6 +95,11 @@ UUID UUID::combine(const UUID& other) const
     low ^= other._low;
     permute(high, low);
     return {high, low};
+}
+
+std::size_t UUID::getHash(std::uint64_t seed) const
+{
+    return mixBits(mixBits(_high ^ seed) ^ _low);
 }
 
 std::string UUID::toString() const

@@ -51,6 +51,9 @@ public:
     /// The order of the canonical texts.
     friend constexpr std::strong_ordering operator<=>(const UUID&, const UUID&) = default;
 
+    /// Without the seed nobody can tell which values have the same hash: see `SeededHash`.
+    std::size_t getHash(std::uint64_t seed) const;
+
     friend std::size_t hash_value(const UUID& uuid)
     {
         return static_cast<std::size_t>(uuid._low ^ (uuid._high * 0x9e3779b97f4a7c15U));

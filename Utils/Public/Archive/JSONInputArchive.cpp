@@ -13,6 +13,7 @@
 #include "Utils/Public/Archive/JSONTape.h"
 #include "Utils/Public/Archive/PolymorphicRegistry.h"
 #include "Utils/Public/Archive/RapidJSON.h"
+#include "Utils/Public/SeededHash.h"
 
 namespace cereal {
 
@@ -47,7 +48,7 @@ using detail::Frame;
 using detail::TapeNode;
 using detail::TypeEntry;
 
-/// The whole rest of a stream with a closing NUL.
+/// The whole rest of a stream, with room for what the parser puts behind it.
 std::string readWhole(std::istream& stream)
 {
     constexpr std::size_t FirstPiece = 1U << 16U;
@@ -56,7 +57,7 @@ std::string readWhole(std::istream& stream)
     std::size_t piece = FirstPiece;
     if (std::streambuf* const source = stream.rdbuf()) {
         if (const std::streamsize available = source->in_avail(); available > 0) {
-            piece = std::max(piece, static_cast<std::size_t>(available) + 1);
+            piece = std::max(piece, static_cast<std::size_t>(available) + detail::JSONTape::Padding);
         }
         while (true) {
             text.resize(size + piece);
@@ -117,9 +118,9 @@ struct JSONInputArchive::Impl {
     detail::JSONTape tape;
     std::vector<Frame> frames;
     const TapeNode* current = nullptr;
-    boost::unordered_flat_map<std::uint32_t, SharedEntry> shared;
+    boost::unordered_flat_map<std::uint32_t, SharedEntry, QN::SeededHash> shared;
     std::forward_list<TypeEntry> typeEntries;
-    boost::unordered_flat_map<std::uint32_t, TypeEntry*> types;
+    boost::unordered_flat_map<std::uint32_t, TypeEntry*, QN::SeededHash> types;
 };
 
 JSONInputArchive::JSONInputArchive(std::istream& stream) : JSONInputArchive(stream, Options{}) {}

@@ -423,7 +423,7 @@ private:
 JSONTape::JSONTape(std::string text, std::uint32_t limit) : _text(std::move(text))
 {
     const std::size_t length = _text.size();
-    _text.append(sizeof(std::uint64_t), '\0');
+    _text.append(Padding, '\0');
     TapeParser parser(*this, _text.data(), limit);
     if (parser.parse() != _text.data() + length) {
         throwFailedCheck("IsObject()");

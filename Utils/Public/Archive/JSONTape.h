@@ -42,6 +42,8 @@ struct TapeNode {
 /// the text, which is changed in place.
 class DOM_API JSONTape {
 public:
+    /// So many NULs stand behind the text, that it can be read in words.
+    static constexpr std::size_t Padding = sizeof(std::uint64_t);
     /// The most bytes of a string, and nodes of a container, that a node can count.
     static constexpr std::uint32_t MaxSize = std::numeric_limits<std::uint32_t>::max();
 

@@ -8,6 +8,7 @@
 #include "DOM/Tables/DamagedTables.h"
 #include "DOM/Validator/DOM_Validator.h"
 #include "DOM/Validator/TableFaults.h"
+#include "Utils/Public/SeededHash.h"
 
 /// The rules of a table's own storage, and the walk through one that is damaged.
 
@@ -26,7 +27,7 @@ RowColIDContainer& getColIDs(Table& table)
     return getMember<RowColIDContainer>(table, "_colIDContainer");
 }
 
-using IDToIndex = boost::unordered_flat_map<std::uint64_t, std::uint64_t>;
+using IDToIndex = boost::unordered_flat_map<std::uint64_t, std::uint64_t, SeededHash>;
 using Items = std::vector<RowColIDContainer::IndexID>;
 
 constexpr std::uint64_t RowUID = 2000000;
@@ -245,6 +246,11 @@ TEST(ValidatorTableStorageTest, DamagedRowsThatAllShareTheirCellsAreWalkedOnce)
     constexpr std::size_t Cells = 20000;
     const Document document = makeDamagedDocument(Cells, makeSharedOffsets(Cells, 200000));
     EXPECT_EQ(Validator::collectFindings(document).size(), Cells);
+}
+
+TEST(ValidatorTableStorageTest, ACellOfADamagedRowThatAnIteratorPassesOverIsValidated)
+{
+    EXPECT_EQ(findNullCells(makeDamagedDocument(3, {1, 1, 0, 1})), " (2, 0) (3, 1) (3, 2)");
 }
 
 TEST(ValidatorTableStorageTest, DamagedRowsWithoutOrderAreWalkedWhole)
