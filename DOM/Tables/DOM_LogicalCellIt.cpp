@@ -70,8 +70,10 @@ LogicalCellIt<Inner>& LogicalCellIt<Inner>::operator--()
     } else {
         return *this;
     }
-    if (isInnerBehind()) {
+    if (isInnerBehind() && !_innerIsFirst) {
+        const Inner before = _inner;
         --_inner;
+        _innerIsFirst = _inner == before;
         cacheInnerColumn();
     }
     return *this;
@@ -138,6 +140,7 @@ void LogicalCellIt<Inner>::catchUp()
 {
     while (isInnerBefore() && !_inner.isAtEnd()) {
         ++_inner;
+        _innerIsFirst = false;
         cacheInnerColumn();
     }
 }

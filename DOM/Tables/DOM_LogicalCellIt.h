@@ -66,6 +66,8 @@ private:
     ColumnIndex _column;
     Inner _inner;
     ColumnIndex _innerColumn;
+    /// Whether no stored cell is known to stand before it: it would look for one with each step backwards.
+    bool _innerIsFirst = false;
 };
 
 extern template class DOM_API LogicalCellIt<TableCellIt<Table>>;

@@ -98,6 +98,21 @@ CellInfo TableCellIt<TableType>::getCellInfo() const
 }
 
 template <class TableType>
+const std::vector<TableChunk>& TableCellIt<TableType>::getChunks() const
+{
+    return _table->_chunks;
+}
+
+/// To the beginning of a row, with cells or without.
+template <class TableType>
+void TableCellIt<TableType>::goToRow(std::size_t chunkIndex, RowIndex row)
+{
+    _chunkIndex = chunkIndex;
+    _row = row;
+    setDataIteratorsForRow();
+}
+
+template <class TableType>
 void TableCellIt<TableType>::setDataIteratorsForRow()
 {
     const auto boundaries = _table->getRowBoundaries(_chunkIndex, _row);

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <type_traits>
+#include <vector>
 
 #include "DOM/Tables/DOM_CellInfo.h"
 #include "DOM/Tables/DOM_RowColumnID.h"
@@ -9,17 +10,23 @@
 
 namespace QN::DOM {
 
+struct TableChunk;
+template <class TableType>
+class StoredCellWalk;
+
 /// Walks the stored cells of a whole table, row by row, and passes over runs of empty rows at once: a walk costs in
 /// proportion to the stored cells. Any structural change of the table invalidates it.
 ///
-/// A stored cell of a loaded table may be null. Where rows of a loaded table share cells, as only a damaged file has it, the
-/// walk comes to these once in each row; `StoredCellWalk` does not.
+/// A stored cell of a loaded table may be null. Where rows of a loaded table share cells, or begin before an earlier one, as
+/// only a damaged file has it, the walk can come to a cell several times, and it can pass over a row with cells;
+/// `StoredCellWalk` does neither.
 template <class TableType>
 class TableCellIt {
 public:
     using CellType = std::conditional_t<std::is_const_v<TableType>, const Cell, Cell>;
 
-    /// At the first stored cell, or behind the last one.
+    /// At the first stored cell, or behind the last one of a live row: at the first cell that a file stored behind the live
+    /// rows, or else at the end.
     explicit TableCellIt(TableType& table, bool atEnd = false);
     /// At the first stored cell at or behind a position.
     TableCellIt(TableType& table, RowIndex row, ColumnIndex column);
@@ -55,10 +62,14 @@ public:
     /// The place of the cell among all cells of its chunk.
     std::size_t getDataIndex() const { return _dataIndex; }
 
-    /// Whether no stored cell is left.
+    /// Whether no stored cell is left, in rows behind the live ones neither.
     bool isAtEnd() const { return _dataIndex >= _rowEnd; }
 
 private:
+    friend class StoredCellWalk<TableType>;
+
+    const std::vector<TableChunk>& getChunks() const;
+    void goToRow(std::size_t chunkIndex, RowIndex row);
     void setDataIteratorsForRow();
     void updateForNextValidCell();
 

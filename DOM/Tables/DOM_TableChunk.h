@@ -35,7 +35,7 @@ struct DOM_API CellDataByCol {
 ///
 /// `rowDataOffsets[i]` is where the row `startRowIndex + i` begins in `data`; it ends where the next one begins. A row
 /// without offset is empty. Offsets come from files unjudged, and replacing cells can raise them past the size of `data`:
-/// nothing looks at them but through `getRelativeRowBoundaries`.
+/// no place in `data` is taken from them but through `getRelativeRowBoundaries`, or with a bound of its own.
 struct DOM_API TableChunk {
     /// Places in `data`, with begin <= end <= size.
     struct Boundaries {

@@ -2,6 +2,7 @@
 #include <vector>
 
 #include "DOM/Tables/DOM_PivotTable.h"
+#include "DOM/Tables/DOM_StoredCellWalk.h"
 #include "DOM/Tables/DOM_Table.h"
 #include "Utils/Public/ClassScheme/Define.h"
 
@@ -11,14 +12,23 @@ namespace {
 
 using CollaborationUtils::WithTombstones;
 
+using CellWalk = StoredCellWalk<const Table>;
+
 /// Steps on to a cell that takes part in equality.
-template <class Iterators>
-void skipEmptyCells(Iterators& iterators)
+void skipEmptyCells(const Table& table, CellWalk& cells)
 {
-    while (!(iterators.first == iterators.second) &&
-           (*iterators.first == nullptr || iterators.first->isEmpty(WithTombstones::Yes))) {
-        ++iterators.first;
+    while (!cells.isAtEnd() && (cells.getRowIndex() >= table.getLiveRowsCount() || *cells == nullptr ||
+                                (*cells)->isEmpty(WithTombstones::Yes))) {
+        ++cells;
     }
+}
+
+bool areRowsEqual(const std::vector<TableChunk>& left, const std::vector<TableChunk>& right)
+{
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [](const TableChunk& chunk, const TableChunk& other) {
+                          return chunk.rowDataOffsets == other.rowDataOffsets;
+                      });
 }
 
 /// The styles by position.
@@ -70,23 +80,24 @@ bool areIDsEqual(const RowColIDContainer& left, const RowColIDContainer& right, 
 
 bool Table::areCellsEqual(const Table& other) const
 {
-    auto left = getTableIterators();
-    auto right = other.getTableIterators();
+    CellWalk left(*this, StoredCells::OfTableIt);
+    CellWalk right(other, StoredCells::OfTableIt);
     while (true) {
-        skipEmptyCells(left);
-        skipEmptyCells(right);
-        const bool leftIsDone = left.first == left.second;
-        const bool rightIsDone = right.first == right.second;
-        if (leftIsDone || rightIsDone) {
-            return leftIsDone == rightIsDone;
+        skipEmptyCells(*this, left);
+        skipEmptyCells(other, right);
+        if (left.isAtEnd() || right.isAtEnd()) {
+            break;
         }
-        if (left.first.getRowIndex() != right.first.getRowIndex() ||
-            left.first.getColIndex() != right.first.getColIndex() || !(**left.first == **right.first)) {
+        if (left.getRowIndex() != right.getRowIndex() || left.getColIndex() != right.getColIndex() ||
+            !(**left == **right)) {
             return false;
         }
-        ++left.first;
-        ++right.first;
+        ++left;
+        ++right;
     }
+    // A cell that rows share was compared in one of them alone.
+    return left.isAtEnd() && right.isAtEnd() &&
+           ((left.isInOrder() && right.isInOrder()) || areRowsEqual(_chunks, other._chunks));
 }
 
 bool Table::areStylesEqual(const Table& other) const

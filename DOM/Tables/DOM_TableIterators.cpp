@@ -25,7 +25,8 @@ std::size_t findBehindEqualOffsets(const std::vector<std::uint64_t>& offsets, st
 } // namespace
 
 /// To the next row that may hold cells, over all empty ones at once. False, and one past the last row with an offset,
-/// when there is none. The row always rises.
+/// when there is none. The row always rises, and it never passes over the first one behind the live rows: the end of a
+/// walk may stand at a cell there, and offsets of a file that fall could hide it.
 bool Table::goToNextStoredRow(std::size_t& chunkIndex, RowIndex& row) const
 {
     const TableChunk& chunk = _chunks[chunkIndex];
@@ -33,7 +34,8 @@ bool Table::goToNextStoredRow(std::size_t& chunkIndex, RowIndex& row) const
     const std::size_t next = chunk.getRelativeRow(row) + 1;
     if (next < offsets.size()) {
         // Rows without cells begin where the next one begins: the last of them may have some.
-        row = chunk.startRowIndex + (findBehindEqualOffsets(offsets, next) - 1);
+        const RowIndex found = chunk.startRowIndex + (findBehindEqualOffsets(offsets, next) - 1);
+        row = row < getLiveRowsCount() ? std::min(found, getLiveRowsCount()) : found;
         return true;
     }
     if (chunkIndex + 1 < _chunks.size()) {

@@ -76,6 +76,39 @@ TEST(DOM_LogicalCellIt, TurnsAroundAnywhere)
     }
 }
 
+TEST(DOM_LogicalCellIt, FindsEachStoredCellAfterTurnsInFrontOfTheFirst)
+{
+    const Table table = makeSparse(2);
+    for (const TableRange& range : {makeRange(0, 10, 0, 6), makeRange(1, 12, 1, 3), makeRange(0, 4, 4, 6)}) {
+        const auto iterators = table.getRangeLogicalIterators(range);
+        auto it = iterators.second;
+        for (std::uint64_t back = 1; back < 80; ++back) {
+            for (std::uint64_t step = 0; step < back; ++step) {
+                --it;
+                ASSERT_EQ(*it, table.getCell(it.getRowIndex(), it.getColIndex()));
+            }
+            it.advance(back / 2);
+            ASSERT_EQ(*it, it.isAtEnd() ? nullptr : table.getCell(it.getRowIndex(), it.getColIndex()));
+        }
+    }
+}
+
+TEST(DOM_LogicalCellIt, LooksForCellsBeforeTheFirstOneOnceWhenItGoesBackwards)
+{
+    constexpr std::uint64_t Rows = 30000;
+    Table table;
+    for (std::uint64_t row = 0; row < Rows; ++row) {
+        setNumber(table, row, 0, 1.0);
+    }
+    // 450,000,000 rows if each step looked again.
+    const auto iterators = table.getRangeLogicalIterators(makeRange(0, Rows, 1, 2));
+    std::uint64_t steps = 0;
+    for (auto it = iterators.second; it != iterators.first; --it) {
+        ++steps;
+    }
+    EXPECT_EQ(steps, Rows);
+}
+
 TEST(DOM_LogicalCellIt, StaysAtTheFirstPositionWhenItSteppedBack)
 {
     const Table table = makeSparse();

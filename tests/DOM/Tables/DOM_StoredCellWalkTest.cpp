@@ -18,10 +18,10 @@ namespace {
 
 using namespace QN::Test;
 
-std::vector<CellIndex> walk(const Table& table)
+std::vector<CellIndex> walk(const Table& table, StoredCells which = StoredCells::InAnyRow)
 {
     std::vector<CellIndex> positions;
-    for (StoredCellWalk<const Table> cells(table); !cells.isAtEnd(); ++cells) {
+    for (StoredCellWalk<const Table> cells(table, which); !cells.isAtEnd(); ++cells) {
         positions.emplace_back(cells.getRowIndex(), cells.getColIndex());
     }
     return positions;
@@ -105,6 +105,58 @@ TEST(StoredCellWalkTest, DoesNotGiveCellsThatNoRowHolds)
     EXPECT_EQ(walk(makeDamagedTable(3, {})), Positions());
 }
 
+TEST(StoredCellWalkTest, GivesCellsThatAnIteratorPassesOver)
+{
+    // The rows hold none, none, cell 0, and the cells 1 and 2.
+    const Table table = makeDamagedTable(3, {1, 1, 0, 1});
+    EXPECT_EQ(walk(table), (Positions{makeIndex(2, 0), makeIndex(3, 1), makeIndex(3, 2)}));
+    EXPECT_EQ(walk(table, StoredCells::OfTableIt), (Positions{makeIndex(3, 1), makeIndex(3, 2)}));
+}
+
+/// The rows of the chunks are numbered one after the other.
+Table makeDamagedChunks(const std::vector<std::vector<std::uint64_t>>& chunksOffsets)
+{
+    Table table = makeDamagedTable(2, {});
+    const TableChunk sample = getFirstChunk(table);
+    auto& chunks = getDamagedChunks(table);
+    chunks.clear();
+    RowIndex row(0);
+    for (const std::vector<std::uint64_t>& offsets : chunksOffsets) {
+        TableChunk chunk = sample;
+        chunk.rowDataOffsets = offsets;
+        chunk.startRowIndex = row;
+        row += offsets.size();
+        chunks.push_back(std::move(chunk));
+    }
+    return table;
+}
+
+TEST(StoredCellWalkTest, GivesCellsOfChunksInWhichAnIteratorComesToNone)
+{
+    const std::vector<std::uint64_t> passedOver{2, 2, 0, 2};
+    EXPECT_EQ(walk(makeDamagedChunks({passedOver})), (Positions{makeIndex(2, 0), makeIndex(2, 1)}));
+    EXPECT_EQ(walk(makeDamagedChunks({passedOver}), StoredCells::OfTableIt), Positions());
+    const Table table = makeDamagedChunks({passedOver, {0}, {2, 2}, passedOver, passedOver});
+    EXPECT_EQ(walk(table), (Positions{makeIndex(2, 0), makeIndex(2, 1), makeIndex(4, 0), makeIndex(4, 1),
+                                      makeIndex(9, 0), makeIndex(9, 1), makeIndex(13, 0), makeIndex(13, 1)}));
+    EXPECT_EQ(walk(table, StoredCells::OfTableIt), (Positions{makeIndex(4, 0), makeIndex(4, 1)}));
+}
+
+TEST(StoredCellWalkTest, TellsWhetherTheRowsCameInOrder)
+{
+    const auto isInOrder = [](const Table& table) {
+        StoredCellWalk<const Table> cells(table, StoredCells::OfTableIt);
+        for (; !cells.isAtEnd(); ++cells) {
+        }
+        return cells.isInOrder();
+    };
+    EXPECT_TRUE(isInOrder(Table()));
+    EXPECT_TRUE(isInOrder(makeSparse(2)));
+    EXPECT_TRUE(isInOrder(makeDamagedChunks({{0, 1}, {0, 0, 2}, {0, 1, 1}})));
+    EXPECT_FALSE(isInOrder(makeDamagedChunks({{1}})));
+    EXPECT_FALSE(isInOrder(makeDamagedChunks({{0, 1}, {0, 2, 0}, {0, 1}})));
+}
+
 TEST(StoredCellWalkTest, ManyRowsMayShareTheirCells)
 {
     const auto countVisits = [](const Table& table) {
@@ -132,7 +184,7 @@ private:
 Table makeRandomTable(Random& random)
 {
     Table table = makeDamagedTable(0, {});
-    auto& chunks = const_cast<std::vector<TableChunk>&>(getChunks(table));
+    auto& chunks = getDamagedChunks(table);
     chunks.clear();
     RowIndex row(0);
     const bool hasAnyColumns = random.below(2) == 0;
@@ -161,7 +213,16 @@ Visit makeVisit(const Position& position)
     return {*position, position.getRowIndex(), position.getColIndex()};
 }
 
-TEST(StoredCellWalkTest, GivesEachCellWhereAWalkOverAllRowsComesToItFirst)
+std::vector<Visit> getVisits(Table& table, StoredCells which)
+{
+    std::vector<Visit> visits;
+    for (StoredCellWalk<Table> cells(table, which); !cells.isAtEnd(); ++cells) {
+        visits.push_back(makeVisit(cells));
+    }
+    return visits;
+}
+
+TEST(StoredCellWalkTest, GivesEachCellWhereAnIteratorComesToItFirst)
 {
     std::size_t shared = 0;
     for (unsigned seed = 0; seed < 5000; ++seed) {
@@ -176,13 +237,42 @@ TEST(StoredCellWalkTest, GivesEachCellWhereAWalkOverAllRowsComesToItFirst)
                 ++shared;
             }
         }
-        std::vector<Visit> visits;
-        for (StoredCellWalk<Table> cells(table); !cells.isAtEnd(); ++cells) {
-            visits.push_back(makeVisit(cells));
-        }
-        ASSERT_EQ(visits, expected) << "seed " << seed;
+        ASSERT_EQ(getVisits(table, StoredCells::OfTableIt), expected) << "seed " << seed;
     }
     EXPECT_GT(shared, 5000U);
+}
+
+/// Row by row, with no iterator.
+std::vector<Visit> getFirstVisitsOfAllRows(const Table& table)
+{
+    std::vector<Visit> visits;
+    std::set<const Cell*> visited;
+    for (const TableChunk& chunk : getChunks(table)) {
+        for (std::size_t row = 0; row < chunk.rowDataOffsets.size(); ++row) {
+            const auto boundaries = chunk.getRelativeRowBoundaries(row);
+            for (std::size_t place = boundaries.begin; place < boundaries.end; ++place) {
+                const CellDataByCol& data = chunk.data[place];
+                if (visited.insert(data.cell.get()).second) {
+                    visits.emplace_back(data.cell.get(), chunk.startRowIndex + row,
+                                        ColumnIndex(table.getColIDContainer().getIndex(data.colID.get())));
+                }
+            }
+        }
+    }
+    return visits;
+}
+
+TEST(StoredCellWalkTest, GivesEachCellInTheFirstRowThatHoldsIt)
+{
+    std::size_t passedOver = 0;
+    for (unsigned seed = 0; seed < 5000; ++seed) {
+        Random random(seed);
+        Table table = makeRandomTable(random);
+        const std::vector<Visit> visits = getVisits(table, StoredCells::InAnyRow);
+        ASSERT_EQ(visits, getFirstVisitsOfAllRows(table)) << "seed " << seed;
+        passedOver += visits.size() - getVisits(table, StoredCells::OfTableIt).size();
+    }
+    EXPECT_GT(passedOver, 500U);
 }
 
 // The step of `TableCellIt` that it stands on

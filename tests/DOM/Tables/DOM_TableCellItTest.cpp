@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "DOM/Tables/DamagedTables.h"
 #include "DOM/Tables/IteratorSamples.h"
 #include "DOM/Tables/TableInspection.h"
 #include "DOM/Tables/TablePrinters.h"
@@ -165,6 +166,39 @@ TEST(DOM_TableCellIt, EndsWhateverTheOffsetsOfAFile)
         }
         EXPECT_LE(steps, 16U);
     }
+}
+
+TEST(DOM_TableCellIt, ComesToItsEndWhateverTheOffsetsOfAFileAndWithRowsBehindTheLiveOnes)
+{
+    constexpr std::uint64_t CellsCount = 3;
+    constexpr std::uint64_t RowsCount = 5;
+    for (std::uint64_t number = 0; number < 1024; ++number) {
+        std::vector<std::uint64_t> offsets;
+        for (std::uint64_t rest = number; offsets.size() < RowsCount; rest /= CellsCount + 1) {
+            offsets.push_back(rest % (CellsCount + 1));
+        }
+        Table table = makeDamagedTable(CellsCount, offsets);
+        for (std::uint64_t live = 0; live <= RowsCount; ++live) {
+            setLiveRowsCount(table, live);
+            const auto iterators = std::as_const(table).getTableIterators();
+            std::size_t steps = 0;
+            auto it = iterators.first;
+            for (; it != iterators.second && steps < 100; ++it) {
+                EXPECT_LT(it.getRowIndex(), RowIndex(live));
+                ++steps;
+            }
+            ASSERT_LE(steps, CellsCount * RowsCount) << "offsets " << number << ", live rows " << live;
+        }
+    }
+}
+
+TEST(DOM_TableCellIt, HasItsEndAtTheFirstCellBehindTheLiveRows)
+{
+    Table table = makeGrid(4, 1);
+    setLiveRowsCount(table, 2);
+    const auto end = std::as_const(table).getTableIterators().second;
+    EXPECT_EQ(getNumber(*end), 20.0);
+    EXPECT_FALSE(end.isAtEnd());
 }
 
 } // namespace

@@ -3,8 +3,10 @@
 #include <functional>
 
 #include "DOM/FormulaSyntaxTree/DOM_Bool.h"
+#include "DOM/Tables/DamagedTables.h"
 #include "DOM/Tables/TablePrinters.h"
 #include "DOM/Tables/TableSamples.h"
+#include "Support/RoundTrip.h"
 
 namespace QN::DOM::TableEqualityTest {
 namespace {
@@ -191,6 +193,54 @@ TEST(DOM_TableEquality, SeesTheStylesOfPositionsWhateverTheirIdentifiers)
     other.insertRow({{}, makeStyle<RowStyle>('1'), RowID(5'000'000'000)}, RowIndex(1));
     EXPECT_TRUE(one.areStylesEqual(other));
     EXPECT_TRUE(one.areEqualWithoutIDs(other));
+}
+
+// Tables as only a file can make them
+
+TEST(DOM_TableEquality, LeavesOutRowsBehindTheLiveOnes)
+{
+    Table one = makeGrid(4, 1);
+    Table other(one);
+    setNumber(other, 2, 0, 99.0);
+    EXPECT_NE(one, other);
+    setLiveRowsCount(one, 2);
+    setLiveRowsCount(other, 2);
+    EXPECT_EQ(one, other);
+    setNumber(other, 1, 0, 99.0);
+    setLiveRowsCount(other, 2);
+    EXPECT_NE(one, other);
+}
+
+TEST(DOM_TableEquality, EndsWhereTheFirstStoredRowBehindTheLiveOnesCannotBeTold)
+{
+    Table table = makeDamagedTable(1, {0, 1, 0, 1}, [] { return makeNumberCell(1.0); });
+    setLiveRowsCount(table, 2);
+    EXPECT_EQ(table, Table(table));
+    EXPECT_EQ(fromJson<Table>(toJson(table)), table);
+}
+
+TEST(DOM_TableEquality, ComparesCellsThatRowsShareOnce)
+{
+    // Of 2,000,000,000 cells if each row were walked over.
+    const Table table = makeDamagedTable(20000, makeSharedOffsets(20000, 200000));
+    EXPECT_EQ(table, Table(table));
+}
+
+TEST(DOM_TableEquality, SeesWhichRowsShareCells)
+{
+    const auto makeShared = [](std::vector<std::uint64_t> offsets, double last) {
+        double number = last - 2.0;
+        Table table = makeDamagedTable(2, std::move(offsets), [&] { return makeNumberCell(number += 1.0); });
+        table.setUUID(UUID());
+        return table;
+    };
+    const Table table = makeShared({0, 2, 0}, 5.0);
+    EXPECT_EQ(table, makeShared({0, 2, 0}, 5.0));
+    EXPECT_NE(table, makeShared({0, 2, 0}, 6.0));
+    for (const Table& other : {makeShared({0, 2, 2}, 5.0), makeShared({0, 2, 1}, 5.0)}) {
+        EXPECT_NE(table, other);
+        EXPECT_NE(other, table);
+    }
 }
 
 // validate

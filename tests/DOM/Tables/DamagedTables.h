@@ -17,6 +17,17 @@ inline DOM::TableChunk& getFirstChunk(DOM::Table& table)
     return const_cast<DOM::TableChunk&>(getChunks(table).front());
 }
 
+inline std::vector<DOM::TableChunk>& getDamagedChunks(DOM::Table& table)
+{
+    return const_cast<std::vector<DOM::TableChunk>&>(getChunks(table));
+}
+
+/// Leaves the rows behind them stored.
+inline void setLiveRowsCount(DOM::Table& table, std::uint64_t count)
+{
+    const_cast<std::uint64_t&>(getTableMember<std::uint64_t>(table, "_rowsCount")) = count;
+}
+
 /// So many cells in one chunk, each in a column of its own, and a row for each offset, which says at which cell it begins. They
 /// are null unless they are made.
 template <class MakeCell>
