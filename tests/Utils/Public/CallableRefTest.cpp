@@ -18,6 +18,13 @@ int triple(int value)
     return 3 * value;
 }
 
+int countedCalls = 0;
+
+int countCalls(int number)
+{
+    return countedCalls += number;
+}
+
 int callWith(CallableRef<int(int)> callback, int value)
 {
     return callback(value);
@@ -102,6 +109,33 @@ TEST(CallableRefTest, DropsAResultThatNobodyWants)
     EXPECT_EQ(calls, 1);
 }
 
+TEST(CallableRefTest, DropsTheResultOfAFunction)
+{
+    countedCalls = 0;
+    const CallableRef<void(int)> fromFunction(countCalls);
+    const CallableRef<void(int)> fromPointer(&countCalls);
+    fromFunction(2);
+    EXPECT_EQ(countedCalls, 2);
+    fromPointer(3);
+    EXPECT_EQ(countedCalls, 5);
+}
+
+TEST(CallableRefTest, CallsAPointerToAMember)
+{
+    struct Counter {
+        int _count = 0;
+        int add(int number) { return _count += number; }
+    };
+    Counter counter;
+    const auto add = &Counter::add;
+    const CallableRef<int(Counter&, int)> method(add);
+    EXPECT_EQ(method(counter, 4), 4);
+    const auto count = &Counter::_count;
+    const CallableRef<int&(Counter&)> member(count);
+    member(counter) += 3;
+    EXPECT_EQ(counter._count, 7);
+}
+
 TEST(CallableRefTest, LetsExceptionsThrough)
 {
     auto fail = []() -> int { throw std::string("failed"); };
@@ -113,6 +147,19 @@ TEST(CallableRefTest, TakesOnlyWhatCanBeCalledSo)
 {
     static_assert(!std::is_constructible_v<CallableRef<int(int)>, int>);
     static_assert(!std::is_constructible_v<CallableRef<int(std::string)>, decltype(triple)&>);
+}
+
+TEST(CallableRefTest, TakesNothingWhoseReferenceWouldDangle)
+{
+    using Value = std::string (*)();
+    using Reference = const std::string& (*)();
+    using OtherReference = const char* const& (*)();
+    static_assert(std::is_constructible_v<CallableRef<std::string()>, Value>);
+    static_assert(std::is_constructible_v<CallableRef<const std::string&()>, Reference>);
+    static_assert(std::is_constructible_v<CallableRef<const std::string&()>, std::string& (*)()>);
+    static_assert(!std::is_constructible_v<CallableRef<const std::string&()>, Value>);
+    static_assert(!std::is_constructible_v<CallableRef<std::string && ()>, Value>);
+    static_assert(!std::is_constructible_v<CallableRef<const std::string&()>, OtherReference>);
 }
 
 } // namespace
