@@ -37,10 +37,12 @@ public:
         boost::unordered_map<std::string, PropagateConstPtr<std::unique_ptr<FormulaSyntaxTree::Expr>>>;
 
     Document();
-    /// A deep copy, which has the identities of its source.
+    /// A deep copy, which has the identities of its source. An expression that cannot be cloned, since a call in it has no
+    /// arguments or an operand is null, stops the process: see `FormulaSyntaxTree::BaseCompoundExpr`. Validation does not
+    /// look for it.
     Document(const Document& other);
     Document(Document&& other) noexcept;
-    /// Leaves the target as it was when copying fails.
+    /// Leaves the target as it was when copying throws.
     Document& operator=(const Document& other);
     Document& operator=(Document&& other) noexcept;
     ~Document();

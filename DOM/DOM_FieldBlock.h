@@ -26,7 +26,8 @@ public:
     /// An empty formula.
     FieldBlock() = default;
     explicit FieldBlock(FieldInfo info) : _fieldInfo(std::move(info)) {}
-    /// Formulas are copied with their trees, the hyperlink is shared.
+    /// Formulas are copied with their trees, the hyperlink is shared. See `FormulaSyntaxTree::BaseCompoundExpr` for trees
+    /// that cannot be copied.
     QN_DEEP_COPY(FieldBlock)
     ~FieldBlock() override = default;
 
@@ -37,6 +38,8 @@ public:
     const std::shared_ptr<const Hyperlink>& getHyperlink() const { return _hyperlink; }
     void setHyperlink(std::shared_ptr<const Hyperlink> hyperlink) { _hyperlink = std::move(hyperlink); }
 
+    /// What the const form gives is valid until the next change of the list, by whichever way. The non-const form makes
+    /// the list's storage even if it stays empty.
     const std::vector<UUID>& getCommentUUIDs() const { return _commentUUIDs.get(); }
     std::vector<UUID>& getCommentUUIDs() { return _commentUUIDs.edit(); }
 

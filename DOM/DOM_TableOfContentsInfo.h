@@ -32,11 +32,15 @@ public:
     using OutlineLevelsRange = std::pair<std::uint64_t, std::uint64_t>;
     using LevelsStyleInfo = boost::container::map<std::uint64_t, TableOfContentsLevelDecorationInfo>;
 
+    /// Valid until it is set again.
     const boost::optional<OutlineLevelsRange>& getOutlineLevelsRange() const
     {
         return _outlineLevelsRange.get();
     }
     void setOutlineLevelsRange(boost::optional<OutlineLevelsRange> range) { _outlineLevelsRange.set(range); }
+
+    // What a const form gives is valid until the next change of the list or map, by whichever way. A non-const form makes
+    // its storage even if it stays empty.
 
     const std::vector<StyleLevelInfo>& getHeadingStylesLevels() const { return _headingStylesLevels.get(); }
     std::vector<StyleLevelInfo>& getHeadingStylesLevels() { return _headingStylesLevels.edit(); }
@@ -62,7 +66,8 @@ private:
 };
 
 /// The contents that a new document gets: three levels of headings, however many there are. Styles that the store lacks
-/// stand in it with a nil `UUID`.
+/// stand in it with a nil `UUID`. A style of one of its types under another `UUID` than the type's fails the contract of
+/// `findNamedStyle`.
 DOM_API TableOfContentsInfo makeDefaultTableOfContentsInfo(const Styles& styles);
 
 } // namespace QN::DOM

@@ -2,6 +2,7 @@
 
 #include <boost/regex.hpp>
 
+#include <locale>
 #include <stdexcept>
 
 #include "Utils/Public/ClassScheme/Define.h"
@@ -11,10 +12,20 @@ namespace QN::DOM {
 
 namespace {
 
+/// Reads bytes in the classic locale, whatever the global one is: in a locale with an 8-bit encoding a byte of a character
+/// in UTF-8 can be a white space, and the text would be split inside that character.
+boost::regex makeAddressRegex()
+{
+    boost::regex regex;
+    regex.imbue(std::locale::classic());
+    regex.assign(R"((^|\s)<(?<email>.+@.+)>$)");
+    return regex;
+}
+
 /// Whether an address was found. A text on which the search gives up for its cost has none.
 bool findAddress(const std::string& text, boost::smatch& match)
 {
-    static const boost::regex Address(R"((^|\s)<(?<email>.+@.+)>$)");
+    static const boost::regex Address = makeAddressRegex();
     try {
         return boost::regex_search(text, match, Address);
     } catch (const std::runtime_error&) {

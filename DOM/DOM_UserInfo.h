@@ -40,7 +40,8 @@ public:
     /// Reads what `toString` writes. An address stands in angle brackets, holds an "@" with text on both sides, ends the
     /// text or a line of it, and begins it or follows a white space, which belongs to neither part. The first bracket
     /// that can begin one does, so that brackets in a name can go to the address. A text without an address is a name as
-    /// a whole.
+    /// a whole. So is a text on which the search gives up for its cost: one of many thousand characters with an "@" for
+    /// most of them.
     static UserInfo fromString(std::string text);
 
     /// One colour for as long as the address, or, without an address, the name stays the same. An empty palette fails the

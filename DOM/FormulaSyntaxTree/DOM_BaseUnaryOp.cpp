@@ -13,6 +13,13 @@ BaseUnaryOp::BaseUnaryOp(ExprPtr arg) : _args{std::move(arg)}
     QN_ASSERT(_args[0]);
 }
 
+BaseUnaryOp& BaseUnaryOp::operator=(BaseUnaryOp&& other) noexcept
+{
+    std::array<ExprPtr, 1> args = std::move(other._args);
+    _args.swap(args);
+    return *this;
+}
+
 BaseUnaryOp::~BaseUnaryOp()
 {
     destroyTrees(_args);

@@ -14,7 +14,8 @@ public:
     BaseUnaryOp(const BaseUnaryOp&) = delete;
     BaseUnaryOp& operator=(const BaseUnaryOp&) = delete;
     BaseUnaryOp(BaseUnaryOp&&) noexcept = default;
-    BaseUnaryOp& operator=(BaseUnaryOp&&) noexcept = default;
+    /// `other` may be a node of this tree.
+    BaseUnaryOp& operator=(BaseUnaryOp&& other) noexcept;
     ~BaseUnaryOp() override;
 
     const ExprPtr& getArg() const { return _args[0]; }

@@ -43,8 +43,8 @@ public:
     BOOST_DESCRIBE_CLASS(Expr, (), (), (), ())
 };
 
-/// A child of a node. It may be null only where a file says so; reading through a null one fails the contract
-/// "plainPtr".
+/// A child of a node. It may be null: in a file, in a default constructed node, after a move, or where a caller puts
+/// null; the constructors of the operators refuse it. Reading through a null one fails the contract "plainPtr".
 using ExprPtr = PropagateConstPtr<std::unique_ptr<Expr>>;
 
 /// Whether two trees have the same shape and equal nodes, null children included.

@@ -24,7 +24,8 @@ DOM_API UUID makePredefinedTextStyleUUID(PredefinedStyleName styleType);
 /// A new style with the name, the `UUID` and the properties of its type.
 DOM_API NamedTextStyle makePredefinedTextStyle(PredefinedStyleName styleType);
 
-/// The `UUID` of the style of a type in a store; nil when it has none.
+/// The `UUID` of the style of a type in a store; nil when it has none. A style of that type under another `UUID` than the
+/// type's fails the contract of `findNamedStyle`.
 DOM_API UUID getPredefinedTextStyleUUID(const Styles& styles, PredefinedStyleName styleType);
 
 /// Adds the predefined styles that the store lacks, and makes "Normal" its default paragraph style if it has none.

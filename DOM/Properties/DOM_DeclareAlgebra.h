@@ -14,12 +14,13 @@
 /// Removes from `target` what `other` says as well. A pointee that lost all its members stays, present and empty.
 #define QN_DECLARE_EXCLUDE(Class) DOM_API void exclude(Class& target, const Class& other);
 
-/// Keeps in `target` what both say alike. Plain members and lines of either kind must be equal already, or the contract
-/// "areDeeplyEqual(target, other)" fails.
+/// Keeps in `target` what both say alike. Plain members, and what stands behind a pointer to the root of a family (a border
+/// line, a fill), must be equal already where both sides have it, or the contract "areDeeplyEqual(target, other)" fails.
 #define QN_DECLARE_INTERSECT(Class) DOM_API void intersect(Class& target, const Class& other);
 
-/// Takes `replacement` wherever `left` and `right` agree. It can clear members, and it leaves an object, if an empty one,
-/// behind each pointer to a property set.
+/// Takes `replacement` wherever `left` and `right` agree. Of two references to an optional member, one absent and one with
+/// the type's default agree as well, where `target` and `replacement` are both present. It can clear members, and it leaves
+/// an object, if an empty one, behind each pointer to a property set.
 #define QN_DECLARE_REBASE(Class)                                                                             \
     DOM_API void rebaseProperty(Class& target, const Class& replacement, const Class& left,                  \
                                 const Class& right);

@@ -15,7 +15,8 @@ enum class GradientType : unsigned char { Linear = 0, Circle = 1, Rectangle = 2,
 /// Paints an area in colours that blend into each other. The stops keep the order in which they were added, whatever
 /// their positions.
 ///
-/// A NaN angle on either side ends a comparison by `<` as not less, with no look at the type of the gradient.
+/// Of two angles, a NaN on either side ends a comparison by `<` as not less, with no look at the type of the gradient. No
+/// angle is less than any, a NaN too.
 class DOM_API GradientFill final : public Reflectable<Fill> {
 public:
     const std::vector<GradientStop>& getGradientStops() const { return _gradientStops; }

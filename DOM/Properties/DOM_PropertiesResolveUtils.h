@@ -308,7 +308,8 @@ concept ConstSharedPtr = requires(const T& value)
     []<class V>(const std::shared_ptr<const V>&) {}(value);
 };
 
-/// A member that can be absent and has rules of its own; any other member is plain.
+/// A member that can be absent and has rules of its own; any other member is plain, unless its class has the operation
+/// itself: then that goes into it.
 template <class T>
 concept AbsentCapable = std::is_same_v<T, BoolOpt> || IsOptional<T> || BlankVariant<T> || ConstSharedPtr<T>;
 

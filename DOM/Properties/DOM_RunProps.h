@@ -73,7 +73,8 @@ private:
                           _embossed, _engraved, _underline, _shadow))
 };
 
-/// The underline is replaced and excluded whole; two underlines intersect member by member.
+/// The underline is replaced and excluded whole; two underlines intersect member by member. After a rebase both the font
+/// and the underline are present, if empty.
 QN_DECLARE_ALGEBRA(RunProps)
 
 } // namespace QN::DOM

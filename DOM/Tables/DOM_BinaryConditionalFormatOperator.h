@@ -9,7 +9,8 @@
 
 namespace QN::DOM {
 
-/// A condition on a cell with two arguments, each of which may be null. Copying it clones the arguments.
+/// A condition on a cell with two arguments, each of which may be null. Copying it clones the arguments: see
+/// `FormulaSyntaxTree::BaseCompoundExpr` for trees that cannot be copied.
 class DOM_API BinaryConditionalFormatOperator {
 public:
     using ExprPtr = std::unique_ptr<FormulaSyntaxTree::Expr>;

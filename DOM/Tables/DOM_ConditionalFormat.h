@@ -14,8 +14,9 @@ namespace QN::DOM {
 class Table;
 
 /// A style that applies to some ranges of a sheet when a condition holds. The ranges are held by identifiers and follow
-/// their rows and columns. The model stores conditions and evaluates none. Copies are deep: an expression that cannot
-/// be cloned, since a call in it has no arguments, stops the process. The order of the ranges counts in equality.
+/// their rows and columns. The model stores conditions and evaluates none. Copies are deep:
+/// see `FormulaSyntaxTree::BaseCompoundExpr` for trees that cannot be copied. The order of the ranges counts in
+/// equality.
 class DOM_API ConditionalFormat {
 public:
     const UUID& getStyleUUID() const { return _styleUUID; }

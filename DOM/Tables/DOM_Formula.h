@@ -20,11 +20,11 @@ public:
         : _forceFormula(forceFormula), _formulaSyntaxTree(std::move(syntaxTree))
     {
     }
-    /// Copies the tree without recursion. A tree in which a call has no arguments cannot be copied: see
-    /// `FormulaSyntaxTree::BaseCompoundExpr`.
+    /// Copies the tree without recursion: see `FormulaSyntaxTree::BaseCompoundExpr` for trees that cannot be copied.
     QN_DEEP_COPY(Formula)
 
-    /// Set for an array formula: the size of its block. An empty one makes an ordinary formula.
+    /// Set for an array formula: the size of its block. An empty one makes an ordinary formula. Valid until it is
+    /// set again.
     const boost::optional<Size2D<std::uint64_t>>& getArrayFormulaSize() const
     {
         return _arrayFormulaSize.get();

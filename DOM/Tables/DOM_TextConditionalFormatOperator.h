@@ -13,7 +13,8 @@
 namespace QN::DOM {
 
 /// A condition on the text of a cell. The text to compare with is given as such or by an expression, which may be null;
-/// the two are never equal, whatever the expression says. Copying it clones the expression.
+/// the two are never equal, whatever the expression says. Copying it clones the expression: see
+/// `FormulaSyntaxTree::BaseCompoundExpr` for trees that cannot be copied.
 class DOM_API TextConditionalFormatOperator {
 public:
     using ExprPtr = std::unique_ptr<FormulaSyntaxTree::Expr>;

@@ -9,7 +9,8 @@
 
 namespace QN::DOM {
 
-/// A condition on a cell with one argument, which may be null. Copying it clones the argument.
+/// A condition on a cell with one argument, which may be null. Copying it clones the argument: see
+/// `FormulaSyntaxTree::BaseCompoundExpr` for trees that cannot be copied.
 class DOM_API UnaryConditionalFormatOperator {
 public:
     using ExprPtr = std::unique_ptr<FormulaSyntaxTree::Expr>;

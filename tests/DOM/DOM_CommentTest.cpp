@@ -2,9 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
+#include <memory>
+#include <utility>
+
 #include "DOM/DOM_Document.h"
+#include "DOM/Tables/DOM_Table.h"
 #include "DOM/TextSamples.h"
 #include "DOM/ValueChecks.h"
+#include "Support/Clones.h"
 #include "Support/RoundTrip.h"
 
 namespace QN::DOM::CommentTest {
@@ -79,6 +85,34 @@ TEST(DOM_Comment, ACopyHasTheIdentityOfItsSourceAndSharesNoBlock)
     EXPECT_NE(copy.getBlocks().front().get(), &comment.getBlocks().front());
     copy.getBlocks().clear();
     EXPECT_EQ(comment, makeComment());
+}
+
+TEST(DOM_Comment, TheClonesOfItsBlocksHaveTheIdentitiesOfTheirSources)
+{
+    Comment comment = makeComment();
+    auto source = std::make_unique<Table>(RowIndex(1), ColumnIndex(1));
+    source->getOrCreateCell(RowIndex(0), ColumnIndex(0)).getRawBlocks().push_back(makeParagraph({"cell"}));
+    comment.getBlocks().push_back(std::move(source));
+    const Comment copy(comment);
+    const Block& block = std::as_const(comment).getBlocks().back();
+    const std::unique_ptr<Block> unique = cloneUnique(block);
+    const std::shared_ptr<Block> shared = cloneShared(block);
+
+    const auto getInner = [](const Block& table) -> const Block& {
+        return dynamic_cast<const Table&>(table).getCell(RowIndex(0), ColumnIndex(0))->getRawBlocks().front();
+    };
+    const UUID uuid = dynamic_cast<const Table&>(block).getUUID();
+    EXPECT_TRUE(uuid);
+    const Block& copied = copy.getBlocks().back();
+    for (const Block* const clone :
+         std::initializer_list<const Block*>{unique.get(), shared.get(), &copied}) {
+        ASSERT_NE(clone, &block);
+        EXPECT_EQ(clone->getID(), block.getID());
+        EXPECT_EQ(dynamic_cast<const Table&>(*clone).getUUID(), uuid);
+        ASSERT_NE(&getInner(*clone), &getInner(block));
+        EXPECT_EQ(getInner(*clone).getID(), getInner(block).getID());
+    }
+    EXPECT_EQ(copy.getBlocks().front().getID(), std::as_const(comment).getBlocks().front().getID());
 }
 
 TEST(DOM_Comment, CopiesAndMoves)

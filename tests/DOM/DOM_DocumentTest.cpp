@@ -10,9 +10,11 @@
 #include <utility>
 
 #include "DOM/DocumentSamples.h"
+#include "DOM/FormulaSyntaxTree/DOM_FunctionCall.h"
 #include "DOM/Properties/DOM_BlipFill.h"
 #include "DOM/Properties/DOM_NamedTextStyle.h"
 #include "DOM/TextSamples.h"
+#include "DOM/Validator/DOM_Validator.h"
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
 
@@ -313,6 +315,16 @@ TEST(DOM_DocumentDeathTest, ReadingANullBlockFailsTheContract)
 {
     const Document document = makeFullDocument();
     EXPECT_DEATH(document.getBlocks().back(), "Utils/Public/Ptr/PtrUtils:254: plainPtr");
+}
+
+TEST(DOM_DocumentDeathTest, AValidDocumentWithACallWithoutArgumentsCannotBeCopied)
+{
+    Document document;
+    document.getDefinedNames()["name"] = std::make_unique<FormulaSyntaxTree::FunctionCall>();
+    document = fromJson<Document>(toJson(document));
+    Validator().validate(document);
+    EXPECT_TRUE(Validator::collectFindings(document).empty());
+    EXPECT_DEATH(Document{std::as_const(document)}, "argsRange\\.begin\\(\\) != end");
 }
 
 } // namespace

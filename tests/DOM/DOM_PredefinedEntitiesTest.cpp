@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
 #include <utility>
 
 #include "DOM/DOM_Document.h"
@@ -36,6 +37,27 @@ TEST(PredefinedEntitiesTest, AppendingAgainChangesNothing)
     const Document before(document);
     appendPredefinedEntities(document);
     EXPECT_TRUE(document == before);
+}
+
+TEST(PredefinedEntitiesDeathTest, ATypeWithoutItsUUIDIsAContractFailure)
+{
+    Document document;
+    NamedTextStyle style(UUID("8b7a892e-b199-47bf-ba6d-139900efb7f6"));
+    style.setName(PredefinedStyleName::Heading1);
+    document.getStyles().getTextStyles().insert(style);
+    EXPECT_DEATH(appendPredefinedEntities(document),
+                 "DOM/PredefinedStyles/DOM_PredefinedStylesUtils:49: "
+                 "style->getUUID\\(\\) == makeUUIDFunctor\\(styleType\\)");
+}
+
+TEST(PredefinedEntitiesDeathTest, AUUIDWithoutItsTypeIsAContractFailure)
+{
+    Document document;
+    NamedTextStyle style(makePredefinedTextStyleUUID(PredefinedStyleName::Heading1));
+    style.setName(std::string("Heading 1"));
+    document.getStyles().getTextStyles().insert(style);
+    EXPECT_DEATH(appendPredefinedEntities(document),
+                 "DOM_UUIDContainer:67: _collection.find\\(uuid\\) == _collection.end\\(\\)");
 }
 
 } // namespace QN::DOM::PredefinedEntitiesTest

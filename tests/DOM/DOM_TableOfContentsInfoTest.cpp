@@ -135,5 +135,22 @@ TEST(DOM_TableOfContentsInfo, StylesThatTheStoreLacksStandInTheDefaultWithANilId
     }
 }
 
+TEST(DOM_TableOfContentsInfoDeathTest, AStyleOfATypeOfTheDefaultMustHaveTheUUIDOfTheType)
+{
+    const auto makeStyles = [](PredefinedStyleName type) {
+        NamedTextStyle style(makeUUID('1'));
+        style.setName(type);
+        Styles styles;
+        styles.getTextStyles().insert(style);
+        return styles;
+    };
+    constexpr const char* Expected = "DOM/PredefinedStyles/DOM_PredefinedStylesUtils:49: "
+                                     "style->getUUID\\(\\) == makeUUIDFunctor\\(styleType\\)";
+    EXPECT_DEATH(makeDefaultTableOfContentsInfo(makeStyles(PredefinedStyleName::Heading3)), Expected);
+    EXPECT_DEATH(makeDefaultTableOfContentsInfo(makeStyles(PredefinedStyleName::Contents2)), Expected);
+    EXPECT_EQ(makeDefaultTableOfContentsInfo(makeStyles(PredefinedStyleName::Heading4)),
+              makeDefaultTableOfContentsInfo(Styles()));
+}
+
 } // namespace
 } // namespace QN::DOM::TableOfContentsInfoTest

@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
+#include <cstdlib>
+#include <locale>
+#include <string>
 
 #include "DOM/ValueChecks.h"
 #include "Support/RoundTrip.h"
@@ -30,6 +34,21 @@ UserInfo::Palette makePalette(const std::array<Color, ColorCount>& colors)
 {
     return UserInfo::Palette(colors.data(), boost::extents[ColorCount]);
 }
+
+/// The character type of the classic locale, and the no-break space of an 8-bit encoding besides.
+class LatinCharacterType : public std::ctype<char> {
+public:
+    LatinCharacterType() : std::ctype<char>(makeTable()) {}
+
+private:
+    static const mask* makeTable()
+    {
+        static std::array<mask, table_size> table;
+        std::copy_n(classic_table(), table_size, table.begin());
+        table[0xA0] |= space;
+        return table.data();
+    }
+};
 
 TEST(DOM_UserInfo, HoldsANameAndAnAddress)
 {
@@ -104,6 +123,31 @@ TEST(DOM_UserInfo, ATextThatIsTooCostlyToSearchIsANameAsAWhole)
     const UserInfo user = UserInfo::fromString(text);
     EXPECT_EQ(user.getName(), text);
     EXPECT_EQ(user.getEmail(), "");
+}
+
+TEST(DOM_UserInfo, ATextIsANameAsAWholeWhereTheSearchForItsAddressGivesUp)
+{
+    const std::string text = "Jane <a@b>\n";
+    EXPECT_EQ(UserInfo::fromString(text + std::string(1000, '@')), UserInfo("Jane", "a@b"));
+    const std::string costly = text + std::string(200000, '@');
+    const UserInfo user = UserInfo::fromString(costly);
+    EXPECT_TRUE(user.getName() == costly);
+    EXPECT_EQ(user.getEmail(), "");
+}
+
+/// In a process of its own, in which no text was searched before.
+TEST(DOM_UserInfoDeathTest, TheGlobalLocaleDoesNotSplitACharacter)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const auto searchInAnotherLocale = [] {
+        const std::locale locale(std::locale::classic(), new LatinCharacterType);
+        std::locale::global(locale);
+        const std::string text = "Voil\xC3\xA0<a@b>";
+        const bool isName = UserInfo::fromString(text) == UserInfo(text, "");
+        const bool isSplitAtASpace = UserInfo::fromString("Jane <a@b>") == UserInfo("Jane", "a@b");
+        std::exit(std::isspace('\xA0', locale) && isName && isSplitAtASpace ? 0 : 1);
+    };
+    EXPECT_EXIT(searchInAnotherLocale(), ::testing::ExitedWithCode(0), "");
 }
 
 TEST(DOM_UserInfo, TheAddressDecidesTheColour)

@@ -59,6 +59,7 @@ private:
                          (_bottom, _left, _right, _top, _diagonalDown, _diagonalUp, _vertical, _horizontal))
 };
 
+/// Two lines that differ end the process in `intersect`.
 QN_DECLARE_ALGEBRA(BordersProps)
 
 } // namespace QN::DOM

@@ -72,6 +72,7 @@ private:
                           _textOrientation))
 };
 
+/// Two fills, or two lines of the borders, that differ end the process in `intersect`.
 QN_DECLARE_ALGEBRA(CellProps)
 
 /// What holds for the cells of a table in a text document where nothing else is said. One object for the whole process.

@@ -47,7 +47,8 @@ struct Persist<TaggedEmpty<Tag>> {
     }
 };
 
-/// An object with the one key "value": 1 for true, 0 for false, -1 for unset. Any other integer reads as unset.
+/// An object with the one key "value": 1 for true, 0 for false, -1 for unset. Any other integer reads as unset,
+/// but one beyond 64 bits, which raises as a number with a fraction does.
 template <>
 struct Persist<BoolOpt> {
     static void save(cereal::JSONOutputArchive& archive, const BoolOpt& value)

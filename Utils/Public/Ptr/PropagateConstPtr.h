@@ -38,6 +38,7 @@ public:
     friend bool operator==(const PropagateConstPtr& ptr, std::nullptr_t) { return !ptr._ptr; }
 
     P& getPtr() { return _ptr; }
+    /// The wrapped pointer as it is, for copying and saving: constness ends here.
     const P& getPtr() const { return _ptr; }
 
     void reset(P ptr = P{}) { _ptr = std::move(ptr); }

@@ -34,10 +34,14 @@ TEST(BaseUnaryOpTest, PersistsItsOperandAsAnArrayOfOne)
                   pointerJson("Empty", R"({"value0":{"value0":{}}})") + "}]}");
 }
 
-TEST(BaseUnaryOpTest, CanBeReplacedByItsOperand)
+TEST(BaseUnaryOpTest, CanBeReplacedByItsOperandOrItself)
 {
     UnaryMinus outer{op<UnaryMinus>(number(1))};
     outer = std::move(static_cast<UnaryMinus&>(*outer.getArg()));
+    EXPECT_EQ(outer, UnaryMinus{number(1)});
+
+    UnaryMinus& itself = outer;
+    outer = std::move(itself);
     EXPECT_EQ(outer, UnaryMinus{number(1)});
 }
 

@@ -101,6 +101,20 @@ TEST(FindNamedStyleDeathTest, AStyleOfATypeMustHaveTheUUIDOfTheType)
                  "style->getUUID\\(\\) == makeUUIDFunctor\\(styleType\\)");
 }
 
+TEST(FindNamedStyleDeathTest, TheFirstStyleOfATypeIsTheOneThatMustHaveItsUUID)
+{
+    const UUID before("00000000-0000-0000-0000-000000000001");
+    const UUID behind("ffffffff-ffff-ffff-ffff-ffffffffffff");
+    UUIDContainer<NamedTextStyle> styles;
+    styles.insert(makeNamed<NamedTextStyle>(PredefinedStyleName::Hyperlink, HyperlinkUUID));
+    styles.insert(makeNamed<NamedTextStyle>(PredefinedStyleName::Hyperlink, behind));
+    EXPECT_EQ(findNamedStyle(styles, PredefinedStyleName::Hyperlink), styles.find(HyperlinkUUID));
+    styles.insert(makeNamed<NamedTextStyle>(PredefinedStyleName::Hyperlink, before));
+    EXPECT_DEATH(findNamedStyle(styles, PredefinedStyleName::Hyperlink),
+                 "DOM/PredefinedStyles/DOM_PredefinedStylesUtils:49: "
+                 "style->getUUID\\(\\) == makeUUIDFunctor\\(styleType\\)");
+}
+
 TEST(FindNamedStyleDeathTest, AStyleOfAnUnknownTypeOnTheWayToANameIsAContractFailure)
 {
     UUIDContainer<NamedTextStyle> styles;

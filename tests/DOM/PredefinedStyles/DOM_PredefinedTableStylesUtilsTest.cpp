@@ -2,25 +2,32 @@
 
 #include <gtest/gtest.h>
 
+#include "DOM/PredefinedStyles/NotImplemented.h"
 #include "DOM/Properties/DOM_NamedTableStyle.h"
 #include "DOM/Properties/DOM_Styles.h"
 
 namespace QN::DOM::PredefinedTableStylesUtilsTest {
 
-TEST(PredefinedTableStylesUtilsDeathTest, NoneOfTheFunctionsIsImplemented)
+using namespace Test;
+
+TEST(PredefinedTableStylesUtilsDeathTest, EachFunctionFailsWithItsFullSignature)
 {
     const auto type = PredefinedStyleName::Normal;
     Styles styles;
     EXPECT_DEATH(makePredefinedTableStyleName(type),
-                 "makePredefinedTableStyleName\\(.*\\) is not implemented\n$");
+                 makeNotImplementedPattern(
+                     "std::string QN::DOM::makePredefinedTableStyleName\\(.*PredefinedStyleName\\)"));
     EXPECT_DEATH(makePredefinedTableStyleUUID(type),
-                 "makePredefinedTableStyleUUID\\(.*\\) is not implemented\n$");
-    EXPECT_DEATH(makePredefinedTableStyle(type), "makePredefinedTableStyle\\(.*\\) is not implemented\n$");
-    EXPECT_DEATH(
-        getPredefinedTableStyleUUID(styles, type),
-        "getPredefinedTableStyleUUID\\(const .*Styles ?&, .*PredefinedStyleName\\) is not implemented\n$");
+                 makeNotImplementedPattern(
+                     "QN::UUID QN::DOM::makePredefinedTableStyleUUID\\(.*PredefinedStyleName\\)"));
+    EXPECT_DEATH(makePredefinedTableStyle(type),
+                 makeNotImplementedPattern("QN::DOM::NamedTableStyle "
+                                           "QN::DOM::makePredefinedTableStyle\\(.*PredefinedStyleName\\)"));
+    EXPECT_DEATH(getPredefinedTableStyleUUID(styles, type),
+                 makeNotImplementedPattern("QN::UUID QN::DOM::getPredefinedTableStyleUUID"
+                                           "\\(const .*Styles ?&, .*PredefinedStyleName\\)"));
     EXPECT_DEATH(appendPredefinedTableStyles(styles),
-                 "void .*appendPredefinedTableStyles\\(.*Styles ?&\\) is not implemented\n$");
+                 makeNotImplementedPattern("void QN::DOM::appendPredefinedTableStyles\\(.*Styles ?&\\)"));
 }
 
 } // namespace QN::DOM::PredefinedTableStylesUtilsTest

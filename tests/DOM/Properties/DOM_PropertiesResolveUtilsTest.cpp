@@ -207,6 +207,17 @@ TEST(DOM_PropertiesResolveUtils, IntersectingKeepsEqualObjectsOfAFamily)
                     {nullptr, nullptr, nullptr}});
 }
 
+TEST(DOM_PropertiesResolveUtils, IntersectingKeepsAnObjectOfAFamilyAsAPrivateCopy)
+{
+    const Sample before = sampleOf(&Sample::polymorphic, line(1.0F));
+    const Sample other = sampleOf(&Sample::polymorphic, line(1.0F));
+    Sample target = before;
+    intersect(target, other);
+    EXPECT_NE(target.polymorphic, before.polymorphic);
+    EXPECT_NE(target.polymorphic, other.polymorphic);
+    EXPECT_TRUE(target == before);
+}
+
 TEST(DOM_PropertiesResolveUtils, IntersectingKeepsEqualTabStops)
 {
     const TabStops one = tabs({{1.0F, Dot}, {2.0F, Dot}, {4.0F, Dot}});
@@ -307,6 +318,56 @@ TEST(DOM_PropertiesResolveUtils, RebasingALineThatIsReplacedWholeAlwaysLeavesAnO
                    {line(1.0F), nullptr, nullptr, line(), line()},
                    {nullptr, line(2.0F), line(3.0F), line(4.0F), line()},
                    {nullptr, nullptr, nullptr, nullptr, line()}});
+}
+
+/// `make` gives objects that differ if their numbers do, that of zero being the default one.
+template <class M, class Make>
+void expectReplacedWholeOrNotAtAll(M Sample::*member, Make make)
+{
+    expectRebased(member, {{make(1), make(2), make(3), make(3), make(2)},
+                           {make(1), make(2), nullptr, nullptr, make(2)},
+                           {nullptr, make(2), make(3), make(3), make(2)},
+                           {make(1), nullptr, make(3), make(3), nullptr},
+                           {nullptr, nullptr, nullptr, nullptr, nullptr},
+                           {make(1), make(2), make(3), make(4), make(1)},
+                           {make(1), nullptr, make(3), make(4), make(1)},
+                           {nullptr, make(2), make(3), make(4), nullptr},
+                           {make(1), make(2), nullptr, make(0), make(1)},
+                           {make(1), make(2), make(0), nullptr, make(1)}});
+}
+
+TEST(DOM_PropertiesResolveUtils,
+     RebasingAnyOtherPointeeMakesNoDefaultObjectAndHoldsNullAndDefaultForDifferent)
+{
+    expectReplacedWholeOrNotAtAll(&Sample::atomic, [](int number) {
+        return label(std::string(static_cast<std::size_t>(number), 'a'));
+    });
+    expectReplacedWholeOrNotAtAll(&Sample::polymorphic, [](int number) {
+        return number == 0 ? line() : line(static_cast<float>(number));
+    });
+    const auto nan = line(NaN); // equal to itself as a pointer alone
+    expectRebased(&Sample::polymorphic, {{line(1.0F), line(2.0F), nan, nan, line(2.0F)},
+                                         {line(1.0F), line(2.0F), nan, line(NaN), line(1.0F)},
+                                         {line(1.0F), themeLine(), nullptr, nullptr, themeLine()},
+                                         {themeLine(), line(2.0F), line(3.0F), line(4.0F), themeLine()},
+                                         {line(1.0F), line(2.0F), line(), themeLine(), line(1.0F)}});
+}
+
+TEST(DOM_PropertiesResolveUtils, RebasingCopiesAReplacementAndAnObjectOfAFamilyThatStays)
+{
+    const Sample before = fullSample();
+    const Sample replacement = fullSample();
+    Sample replaced = before;
+    rebaseProperty(replaced, replacement, Sample(), Sample());
+    EXPECT_TRUE(replaced == replacement);
+    EXPECT_NE(replaced.atomic, replacement.atomic);
+    EXPECT_NE(replaced.polymorphic, replacement.polymorphic);
+
+    Sample kept = before;
+    rebaseProperty(kept, Sample(), fullSample(), Sample());
+    EXPECT_EQ(kept.atomic, before.atomic) << "no change";
+    EXPECT_NE(kept.polymorphic, before.polymorphic);
+    EXPECT_TRUE(arePointersDeeplyEqual(kept.polymorphic, before.polymorphic));
 }
 
 // Failures

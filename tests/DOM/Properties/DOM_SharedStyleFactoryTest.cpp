@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <initializer_list>
 #include <limits>
+#include <new>
 #include <random>
 #include <set>
 #include <thread>
@@ -256,6 +257,36 @@ TEST(SharedStyleFactoryTest, AKnownStyleCostsNoAllocation)
     EXPECT_EQ(countAllocations([&] { factory.create(std::move(empty)); }), 0U);
     RunStyle unknown = makeStyle(-1.0F);
     EXPECT_GT(countAllocations([&] { factory.create(std::move(unknown)); }), 0U);
+}
+
+TEST(SharedStyleFactoryTest, AFailureToEnterAStyleLeavesThePoolAsItWasAndFree)
+{
+    const auto props = makeRunProps(1.0F);
+    const auto before = props.use_count();
+    const RunStyleFactory factory;
+    const auto known = factory.create(makeStyle(2.0F));
+    std::size_t failures = 0;
+    for (bool failed = true; failed;) {
+        RunStyle style = with<RunStyle>([&](RunStyle& s) { s.setRunProps(props); });
+        bool isReported = false;
+        {
+            const AllocationFailure failure(failures);
+            try {
+                factory.create(std::move(style));
+            } catch (const std::bad_alloc&) {
+                isReported = true;
+            }
+            failed = failure.hasHappened();
+        }
+        style = RunStyle();
+        ASSERT_EQ(isReported, failed) << failures;
+        EXPECT_EQ(props.use_count(), before + (failed ? 0 : 1)) << failures;
+        EXPECT_EQ(factory.create(makeStyle(2.0F)), known) << failures;
+        failures += failed ? 1 : 0;
+    }
+    EXPECT_GE(failures, 2U) << "the style and the list of a pool that was full";
+    const auto entered = factory.create(makeStyle(1.0F));
+    EXPECT_EQ(entered->get().getRunProps(), props);
 }
 
 TEST(SharedStyleFactoryTest, SeveralThreadsGetTheSameStyles)

@@ -69,12 +69,14 @@ TEST(DOM_HeaderRowsCols, LoseBothEndsToAnAbsentRange)
 TEST(DOM_HeaderRowsColsDeathTest, TakeNoRangeThatLacksAnEnd)
 {
     HeaderRowsCols headers;
-    EXPECT_DEATH(headers.setRowRange(RowIDs{RowID(1), boost::none}), R"(rowRange->begin && rowRange->last)");
-    EXPECT_DEATH(headers.setRowRange(RowIDs{boost::none, RowID(1)}), R"(rowRange->begin && rowRange->last)");
+    EXPECT_DEATH(headers.setRowRange(RowIDs{RowID(1), boost::none}),
+                 R"(DOM_HeaderRowsCols\.cpp:[0-9]+: rowRange->begin && rowRange->last)");
+    EXPECT_DEATH(headers.setRowRange(RowIDs{boost::none, RowID(1)}),
+                 R"(DOM_HeaderRowsCols\.cpp:[0-9]+: rowRange->begin && rowRange->last)");
     EXPECT_DEATH(headers.setColRange(ColumnIDs{ColumnID(1), boost::none}),
-                 R"(colRange->begin && colRange->last)");
+                 R"(DOM_HeaderRowsCols\.cpp:[0-9]+: colRange->begin && colRange->last)");
     EXPECT_DEATH(headers.setColRange(ColumnIDs{boost::none, ColumnID(1)}),
-                 R"(colRange->begin && colRange->last)");
+                 R"(DOM_HeaderRowsCols\.cpp:[0-9]+: colRange->begin && colRange->last)");
 }
 
 TEST(DOM_HeaderRowsCols, OrderByRowsAndThenByColumns)

@@ -138,5 +138,17 @@ TEST(DOM_RowProps, AreRebasedWhereTheReferencesAgree)
     EXPECT_EQ(target, RowProps());
 }
 
+template <class T>
+concept Persisted = requires(const T& value, cereal::JSONOutputArchive& archive)
+{
+    value.serialize(archive);
+};
+
+TEST(DOM_RowProps, ArePersistedInTheirPartialFormAlone)
+{
+    EXPECT_TRUE(Persisted<RowProps>);
+    EXPECT_FALSE(Persisted<ResolvedRowProps>);
+}
+
 } // namespace
 } // namespace QN::DOM::RowPropsTest

@@ -113,6 +113,17 @@ TEST(PersistUtilsTest, BoolOptReadFromAnyOtherIntegerIsUnset)
     }
 }
 
+TEST(PersistUtilsTest, BoolOptReadFromAnIntegerBeyond64BitsRaisesAndIsUnset)
+{
+    for (const char* number : {"18446744073709551616", "-9223372036854775809", "100000000000000000000"}) {
+        BoolOpt value = true;
+        const std::string object = R"({"value":)" + std::string(number) + "}";
+        EXPECT_THROW(loadText(object, value), cereal::RapidJSONException) << number;
+        EXPECT_FALSE(value) << number;
+        EXPECT_EQ(typeError<BoolOpt>(object), "data_.f.flags & kIntFlag") << number;
+    }
+}
+
 TEST(PersistUtilsTest, BoolOptOfTheWrongTypeRaisesAndIsUnset)
 {
     for (const char* text : {"true", "1.0", "\"1\"", "null", "[]", "{}"}) {

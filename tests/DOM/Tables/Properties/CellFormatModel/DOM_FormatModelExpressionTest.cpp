@@ -35,6 +35,15 @@ TEST(FormatModelExpressionTest, OneRuleIsTheDefaultNumberRuleAndNotAList)
     EXPECT_EQ(Expression({rule}), Expression(std::vector<Rule>{rule}));
 }
 
+TEST(FormatModelExpressionTest, OneRuleInBracesIsAListOfOne)
+{
+    const Rule rule = makeFullRule();
+    const Expression expression{rule};
+    EXPECT_EQ(expression.getRules(), std::vector<Rule>{rule});
+    EXPECT_FALSE(expression.getDefaultNumberRule().has_value());
+    EXPECT_EQ(expression, Expression(std::vector<Rule>{rule}));
+}
+
 TEST(FormatModelExpressionTest, KeepsWhatIsSet)
 {
     Expression expression;
